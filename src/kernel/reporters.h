@@ -1,0 +1,37 @@
+#pragma once
+// The three reporters through which every error and message of the program leaves: an error
+// always ends the process, a message may go on, a question asks (on the console it only informs).
+// The face (console line or dialog) follows windowed_mode and the call's window flag.
+
+#include <string>
+
+namespace mero {
+
+// True from the start of the program; --output=nowindowed clears it.
+extern bool windowed_mode;
+
+struct report {
+  enum class kind { error, message, question };
+  kind what;
+  std::string text;
+  int code = 0;         // errors only
+  int status = 0;       // the exit status if the report ends the process
+  bool go_on = false;   // messages and questions: return to the caller
+  bool window = false;  // the call asks for the dialog face
+};
+
+// Where reports go. The default sink prints the console face and ends the process where the
+// report says so; unit tests install one that throws, to assert text and code without forking.
+using report_sink = void (*)(const report&);
+report_sink set_report_sink(report_sink sink);
+void default_report_sink(const report& r);
+
+// The console lines, exactly as the user sees them (without the line end).
+std::string console_line(const report& r);
+
+[[noreturn]] void report_error(const std::string& text, int code, int status = 1,
+                               bool window = true);
+void report_message(const std::string& text, bool go_on, bool window);
+void report_question(const std::string& text, int status, bool go_on, bool window);
+
+}  // namespace mero
