@@ -1,0 +1,80 @@
+#include "lp/linf_model.h"
+
+#include <lpsolve/lp_lib.h>
+
+#include <cassert>
+#include <memory>
+
+namespace mero {
+
+namespace {
+
+// Coordinates are free; lp_solve's columns are non-negative unless told otherwise.
+constexpr double k_free_lower = -900000000000000.0;
+
+using model_ptr = std::unique_ptr<lprec, decltype(&delete_lp)>;
+
+// First of the two rows of pair (j, k), 1 <= j < k <= n.
+int pair_row(int n, int facility_rows, int j, int k) {
+  const int before = (j - 1) * n - (j - 1) * j / 2;  // pairs whose first index is below j
+  return facility_rows + 2 * (before + (k - j) - 1) + 1;
+}
+
+// Fills the matrix column by column, rows ascending, so that lp_solve only appends.
+void fill_columns(lprec* lp, int n, int m, const std::vector<double>& z_coefficients) {
+  const int facility_rows = 2 * n * m;
+  for (int j = 1; j <= n; ++j) {
+    for (int i = 1; i <= m; ++i) {
+      const int row = 2 * ((j - 1) * m + i) - 1;
+      set_mat(lp, row, j, 1.0);
+      set_mat(lp, row + 1, j, -1.0);
+    }
+    for (int i = 1; i < j; ++i) {  // j is the second of the pair (i, j)
+      const int row = pair_row(n, facility_rows, i, j);
+      set_mat(lp, row, j, -1.0);
+      set_mat(lp, row + 1, j, 1.0);
+    }
+    for (int k = j + 1; k <= n; ++k) {
+      const int row = pair_row(n, facility_rows, j, k);
+      set_mat(lp, row, j, 1.0);
+      set_mat(lp, row + 1, j, -1.0);
+    }
+  }
+  for (int row = 1; row <= linf_model_rows(n, m); ++row)
+    set_mat(lp, row, n + 1, z_coefficients[row]);
+}
+
+}  // namespace
+
+int linf_model_rows(int n, int m) { return 2 * n * m + n * (n - 1); }
+
+double solve_linf_model(int n, int rows_per_facility, int m, const std::vector<double>& rhs_x,
+                        const std::vector<double>& rhs_y, const std::vector<double>& z_coefficients,
+                        std::vector<double>& x, std::vector<double>& y) {
+  assert(rows_per_facility == 2 * m);
+  const int rows = n * rows_per_facility + n * (n - 1);
+  assert(static_cast<int>(rhs_x.size()) > rows && static_cast<int>(rhs_y.size()) > rows);
+  assert(static_cast<int>(z_coefficients.size()) > rows);
+  model_ptr lp(make_lp(rows, n + 1), &delete_lp);
+  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  std::vector<double> objective(n + 2, 0.0);
+  objective[n + 1] = 1.0;
+  set_obj_fn(lp.get(), objective.data());
+  fill_columns(lp.get(), n, m, z_coefficients);
+  set_rh_vec(lp.get(), const_cast<double*>(rhs_x.data()));  // lp_solve only reads the array
+  for (int row = 1; row <= rows; ++row) set_constr_type(lp.get(), row, GE);
+  for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, k_free_lower);
+  solve(lp.get());
+  double value = lp->best_solution[0];
+  x.assign(n, 0.0);
+  for (int j = 1; j <= n; ++j) x[j - 1] = lp->best_solution[rows + j];
+  set_rh_vec(lp.get(), const_cast<double*>(rhs_y.data()));
+  solve(lp.get());
+  // The maximum norm takes the larger axis.
+  if (lp->best_solution[0] > value) value = lp->best_solution[0];
+  y.assign(n, 0.0);
+  for (int j = 1; j <= n; ++j) y[j - 1] = lp->best_solution[rows + j];
+  return value;
+}
+
+}  // namespace mero

@@ -1,0 +1,37 @@
+#include "lp/two_variable_model.h"
+
+#include <lpsolve/lp_lib.h>
+
+#include <cassert>
+#include <memory>
+
+namespace mero {
+
+std::array<double, 3> solve_two_variable_model(
+    int rows, const std::vector<double>& rhs, const std::vector<double>& a1,
+    const std::vector<double>& a2, const std::vector<double>& lower,
+    const std::vector<double>& upper, const std::vector<double>& objective, bool maximise) {
+  assert(static_cast<int>(rhs.size()) > rows && static_cast<int>(a1.size()) > rows &&
+         static_cast<int>(a2.size()) > rows);
+  assert(lower.size() > 2 && upper.size() > 2 && objective.size() > 2);
+  std::unique_ptr<lprec, decltype(&delete_lp)> lp(make_lp(rows, 2), &delete_lp);
+  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  // lp_solve only reads these arrays.
+  set_obj_fn(lp.get(), const_cast<double*>(objective.data()));
+  set_rh_vec(lp.get(), const_cast<double*>(rhs.data()));
+  for (int r = 1; r <= rows; ++r) {
+    set_mat(lp.get(), r, 1, a1[r]);
+    set_mat(lp.get(), r, 2, a2[r]);
+  }
+  for (int col = 1; col <= 2; ++col) {
+    set_lowbo(lp.get(), col, lower[col]);
+    set_upbo(lp.get(), col, upper[col]);
+  }
+  if (maximise) set_maxim(lp.get());
+  solve(lp.get());
+  const int model_rows = get_Nrows(lp.get());
+  return {lp->best_solution[model_rows + 1], lp->best_solution[model_rows + 2],
+          lp->best_solution[0]};
+}
+
+}  // namespace mero
