@@ -1,0 +1,74 @@
+#pragma once
+// facilities: the planar problem in memory. The base list holds the existing facilities in file
+// order (std::list keeps item handles stable); names run parallel to it; optima holds what the
+// last solver left behind. Every planar solver is a member, grouped below by family; each family
+// is defined in its own file under src/planar, src/gauge, src/line or src/restriction.
+
+#include <iosfwd>
+#include <list>
+#include <string>
+
+#include "model/location.h"
+
+namespace mero {
+
+// The coordinate that compare_by_coordinate looks at. Set it before each sort.
+extern int sort_coordinate;
+
+// -1, 0 or 1 as a's coordinate sort_coordinate is below, equal to or above b's.
+int compare_by_coordinate(const location& a, const location& b);
+
+// Sorts ascending by coordinate c (sets sort_coordinate); equal keys keep their order.
+void sort_by_coordinate(std::list<location>& list, int c);
+
+class facilities : public std::list<location> {
+ public:
+  std::list<std::string> names;
+
+  // A copy of the optima of the last solve, in the order the solver appended them.
+  std::list<location> optima() const { return optima_; }
+  // A copy-free view for code that only reads the optima.
+  const std::list<location>& optima_view() const { return optima_; }
+
+  // The i-th location; location(2, 1) of zeros when i is out of range.
+  location get(int i) const;
+  // True when some location has exactly these coordinates; weights do not count.
+  bool contains(const location& c) const;
+  // Removes the location with index i (1305 when out of range). Names are not adjusted.
+  void remove(int i);
+  // Removes by full equality: the head or the tail if it matches, otherwise every match.
+  void remove(const location& l);
+  // The name of the list item l, appending empty names as needed; 1334 for a foreign item.
+  std::string& refname(const location& l);
+
+  // Column-wise sum of all weights, sized by the first location.
+  Loc_Vector weight_sums() const;
+  double coordinate_max(int i) const;
+  double coordinate_min(int i) const;
+  double coordinate_range(int i) const;
+
+  // Sum of weight(w) times the p-norm distance from x (p = -1 the maximum norm).
+  double objective(int p, const location& x, int w) const;
+  // The same at the first optimum; 1303 before any solve.
+  double objective(int p, int w) const;
+  // location::WriteAsPolygonList of the optima; 1304 before any solve.
+  void write_optima(std::ostream& out) const;
+
+  // The rectilinear transforms of location applied to every entry of a list or of this object.
+  static void l1_to_linf(std::list<location>& list);
+  static void linf_to_l1(std::list<location>& list);
+  void l1_to_linf();
+  void linf_to_l1();
+
+  // A copy of the list sorted by coordinate c in which entries of equal coordinate c are merged
+  // into the first of them, their weights of column w added to its column w.
+  std::list<location> sorted_merged(int c, int w) const;
+
+  // --- Rectilinear median (src/planar/l1_median.cpp) ---
+  double l1_sum(int w, bool clear);
+
+ protected:
+  std::list<location> optima_;
+};
+
+}  // namespace mero

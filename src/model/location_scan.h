@@ -1,0 +1,55 @@
+#pragma once
+// The state of the location-file scanner, shared by the readers of the location file and of the
+// graph file (whose location part is a location file). A reader starts the scan with its stream
+// and file type, runs scan_location_file, and moves the scanned lists into its target.
+
+#include <iosfwd>
+#include <list>
+#include <string>
+#include <vector>
+
+#include "model/location.h"
+#include "model/scan_common.h"
+
+namespace mero {
+
+// The values of location_file_type.
+namespace location_file_types {
+inline constexpr const char* plain = "Locationfile";
+inline constexpr const char* gauge = "GaugeLoc";
+inline constexpr const char* graph = "Graphfile";
+inline constexpr const char* nc_graph = "NCGraphfile";
+inline constexpr const char* by_name = "byname";
+}  // namespace location_file_types
+
+struct location_scan : scan_state {
+  std::string location_file_type = location_file_types::plain;
+  int location_dim = 2;
+  int location_weight_dim = 1;
+
+  std::list<location> scanned_locations;
+  std::list<std::string> scanned_names;
+  std::vector<int> scanned_gauge_numbers;
+
+  // The location line being read.
+  std::vector<double> line_coordinates;
+  std::vector<double> line_weights;
+  int counter = 0;
+  bool name_seen = false;
+  bool first_call = true;
+
+  bool is_graph_file() const;
+  bool is_gauge_file() const;
+  // Empties every list and starts a fresh read of input as a file of the given type.
+  void start(std::istream& input, const char* file_type);
+  // The line is complete: its numbers become a location(location_dim, location_weight_dim),
+  // named by the name seen or by the empty string. A weight dimension of 0 still had to read one
+  // weight, and storing it then fails with error 1209.
+  void complete_line();
+};
+
+// Scans the whole input: 0 when the file is done, 1 when message holds an error. (The scanner's
+// own entry may also return values above 1, meaning "call again"; this loop does that.)
+int scan_location_file(location_scan& scan);
+
+}  // namespace mero
