@@ -22,6 +22,13 @@ void write_point(std::ostream& out, const location& l) {
 
 location::location(int dim, int weight_dim) : coordinates_(dim), weights_(weight_dim) {}
 
+location::location(const point& p) : coordinates_(2.0, p.xcoord(), p.ycoord()), weights_(1) {}
+
+location::operator point() const {
+  if (dim() != 2) report_model_error(model_messages::point_dimension);
+  return point(coordinates_[0], coordinates_[1]);
+}
+
 void location::fill_from(const double* values, int count) {
   int next = 0;
   for (int i = 0; i < dim() && next < count; ++i) coordinates_[i] = values[next++];

@@ -5,6 +5,7 @@
 #include <iosfwd>
 #include <list>
 
+#include "kernel/point.h"
 #include "model/loc_vector.h"
 
 namespace mero {
@@ -12,6 +13,8 @@ namespace mero {
 class location {
  public:
   location(int dim, int weight_dim);
+  // Dimension 2 from the point's x and y, with one zero weight so that it survives copying.
+  explicit location(const point& p);
   // location(dim, weight_dim, c0, ..., w0, ...): sizes truncated to integers, then dim
   // coordinates and weight_dim weights from the values that follow (missing ones stay 0.0).
   template <typename... Values>
@@ -59,6 +62,9 @@ class location {
   double norm(int p) const;
   // Angle between the two position vectors; 1202 if either has length 0.
   double r_angle(const location& l) const;
+
+  // The kernel point (x, y); 1203 unless the dimension is 2.
+  explicit operator point() const;
 
   // Rectilinear transforms of a plane location, inverse to each other:
   // l1 -> linf maps (x, y) to ((x + y) / 2, (y - x) / 2); linf -> l1 maps (x, y) to (x - y, x + y).

@@ -1,0 +1,98 @@
+#include "model/loc_vector.h"
+
+#include <cmath>
+
+#include "model/model_messages.h"
+#include "test_support.h"
+
+namespace mero {
+namespace {
+
+TEST(loc_vector, construction) {
+  Loc_Vector zeros(3);
+  EXPECT_EQ(zeros.size(), 3);
+  EXPECT_EQ(zeros[2], 0.0);
+  Loc_Vector v(2.9, 1.5, -2.0, 7.0);  // size truncated to 2, the surplus value ignored
+  EXPECT_EQ(v.size(), 2);
+  EXPECT_EQ(v[0], 1.5);
+  EXPECT_EQ(v[1], -2.0);
+  EXPECT_EQ(Loc_Vector(0).size(), 0);
+}
+
+TEST(loc_vector, copies_are_deep) {
+  Loc_Vector a(2.0, 1.0, 2.0);
+  Loc_Vector b(a);
+  b[0] = 5.0;
+  EXPECT_EQ(a[0], 1.0);
+  Loc_Vector c(1);
+  c = a;
+  a[1] = 9.0;
+  EXPECT_EQ(c[1], 2.0);
+  c = c;
+  EXPECT_EQ(c, Loc_Vector(2.0, 1.0, 2.0));
+}
+
+TEST(loc_vector, arithmetic_with_mismatched_sizes_is_silent) {
+  Loc_Vector a(2.0, 1.0, 2.0);
+  Loc_Vector b(3.0, 1.0, 1.0, 1.0);
+  EXPECT_EQ(a + b, Loc_Vector(3));  // zero vector of the argument's size
+  EXPECT_EQ(a - b, Loc_Vector(3));
+  a += b;
+  a -= b;
+  EXPECT_EQ(a, Loc_Vector(2.0, 1.0, 2.0));
+  EXPECT_EQ(a.dot(b), 0.0);
+  EXPECT_EQ(Loc_Vector(0).dot(Loc_Vector(0)), 0.0);
+}
+
+TEST(loc_vector, arithmetic) {
+  Loc_Vector a(2.0, 1.0, 2.0);
+  Loc_Vector b(2.0, 3.0, -1.0);
+  EXPECT_EQ(a + b, Loc_Vector(2.0, 4.0, 1.0));
+  EXPECT_EQ(a - b, Loc_Vector(2.0, -2.0, 3.0));
+  EXPECT_EQ(a.dot(b), 1.0);
+  EXPECT_EQ(a * 3.0, Loc_Vector(2.0, 3.0, 6.0));
+  EXPECT_EQ(a + 1.0, Loc_Vector(2.0, 2.0, 3.0));
+  EXPECT_EQ(a - 1.0, Loc_Vector(2.0, 0.0, 1.0));
+  a *= 2.0;
+  EXPECT_EQ(a, Loc_Vector(2.0, 2.0, 4.0));
+  a /= 4.0;
+  EXPECT_EQ(a, Loc_Vector(2.0, 0.5, 1.0));
+  a /= 0.0;  // no test for zero here
+  EXPECT_TRUE(std::isinf(a[0]));
+}
+
+TEST(loc_vector, comparisons) {
+  EXPECT_TRUE(Loc_Vector(0) < Loc_Vector(0));
+  EXPECT_FALSE(Loc_Vector(1) < Loc_Vector(2));
+  EXPECT_TRUE(Loc_Vector(2.0, 1.0, 2.0) < Loc_Vector(2.0, 2.0, 3.0));
+  EXPECT_FALSE(Loc_Vector(2.0, 1.0, 3.0) < Loc_Vector(2.0, 2.0, 3.0));
+  EXPECT_TRUE(Loc_Vector(2.0, 1.0, 2.0) != Loc_Vector(3.0, 1.0, 2.0, 0.0));
+  EXPECT_FALSE(Loc_Vector(2.0, 1.0, 2.0) != Loc_Vector(2.0, 1.0, 2.0));
+}
+
+TEST(loc_vector, norms) {
+  Loc_Vector v(2.0, 3.0, -4.0);
+  EXPECT_EQ(v.norm(1), 7.0);
+  EXPECT_NEAR(v.norm(2), 5.0, 1e-15);
+  EXPECT_NEAR(v.norm(3), std::cbrt(27.0 + 64.0), 1e-12);
+  EXPECT_EQ(v.norm(-1), 4.0);
+  EXPECT_EQ(v.norm(0), 0.0);
+  EXPECT_EQ(v.norm(-2), 0.0);
+  EXPECT_EQ(Loc_Vector(0).norm(-1), 0.0);
+}
+
+TEST(loc_vector, rotation_turns_clockwise) {
+  // A quarter turn takes the x axis to the negative y axis.
+  Loc_Vector r = Loc_Vector(2.0, 1.0, 0.0).rotate(M_PI / 2);
+  EXPECT_NEAR(r[0], 0.0, 1e-15);
+  EXPECT_NEAR(r[1], -1.0, 1e-15);
+  r = Loc_Vector(2.0, 0.0, 2.0).rotate(M_PI / 2);
+  EXPECT_NEAR(r[0], 2.0, 1e-15);
+  EXPECT_NEAR(r[1], 0.0, 1e-15);
+  const auto& m = model_messages::rotate_dimension;
+  EXPECT_REPORT(Loc_Vector(3).rotate(1.0), m.code, m.text);
+  EXPECT_EQ(m.code, 1101);
+}
+
+}  // namespace
+}  // namespace mero
