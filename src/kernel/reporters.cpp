@@ -28,6 +28,10 @@ std::string console_line(const report& r) {
 // On the console a question asks nothing: it informs like a message, and the continue flag
 // decides whether the run goes on.
 void default_report_sink(const report& r) {
+  if (r.what == report::kind::end) {
+    std::cout.flush();
+    std::exit(r.status);
+  }
   std::cout << console_line(r) << std::endl;
   if (r.what == report::kind::error) std::exit(r.status);
   if (!r.go_on) std::exit(0);
@@ -44,6 +48,11 @@ void report_message(const std::string& text, bool go_on, bool window) {
 
 void report_question(const std::string& text, int status, bool go_on, bool window) {
   deliver({report::kind::question, text, 0, status, go_on, window});
+}
+
+void end_process(int status) {
+  deliver({report::kind::end, "", 0, status, false, false});
+  std::exit(status);
 }
 
 }  // namespace mero

@@ -11,7 +11,7 @@ namespace mero {
 extern bool windowed_mode;
 
 struct report {
-  enum class kind { error, message, question };
+  enum class kind { error, message, question, end };
   kind what;
   std::string text;
   int code = 0;         // errors only
@@ -33,5 +33,8 @@ std::string console_line(const report& r);
                                bool window = true);
 void report_message(const std::string& text, bool go_on, bool window);
 void report_question(const std::string& text, int status, bool go_on, bool window);
+
+// Ends the process with this status without a report (the usage text ends this way).
+[[noreturn]] void end_process(int status);
 
 }  // namespace mero

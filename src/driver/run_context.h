@@ -1,0 +1,48 @@
+#pragma once
+// Everything one problem run owns for its whole length: one object of each kind of problem, all
+// empty at the start, whichever kind the command line asks for.
+
+#include <cstddef>
+#include <iosfwd>
+#include <list>
+#include <string>
+#include <vector>
+
+#include "driver/algorithm_table.h"
+#include "driver/run_request.h"
+#include "model/facilities.h"
+
+namespace mero {
+
+struct run_context {
+  explicit run_context(const run_request& r) : request(r) {}
+
+  const run_request& request;
+  facilities problem;              // planar and gauge data; the graph reader fills it too
+  std::list<location> results;     // optima of planar problems, for the report and the viewer
+  std::list<location> situations;  // optima of gauge problems
+  std::vector<int> gauge_numbers;  // from a GaugeLoc file
+  std::string label;               // set by the run from the table after the solver
+  label_values label_args;         // filled by the handler for its label
+  std::vector<double> objective;   // sized by the run; only entry 0 is written and reported
+};
+
+// The kinds of main file. Each loads its file and writes its optima in its own file of this
+// folder; the run writes the frame around them.
+enum class problem_kind { planar, gauge, graph, discrete };
+
+problem_kind kind_of(const run_request& request);
+
+void load_planar(run_context& ctx);
+void load_gauge(run_context& ctx);
+void write_planar_optima(run_context& ctx, std::ostream& report);
+
+void load_graph(run_context& ctx);
+std::size_t graph_objective_size(const run_context& ctx);
+void write_graph_optima(run_context& ctx, std::ostream& report);
+
+void load_discrete(run_context& ctx);
+std::size_t discrete_objective_size(const run_context& ctx);
+void write_discrete_optima(run_context& ctx, std::ostream& report);
+
+}  // namespace mero
