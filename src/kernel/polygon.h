@@ -3,6 +3,7 @@
 // last joining the first. Unless asked to keep the given order, the constructor turns a
 // clockwise vertex list round so that the polygon is counter-clockwise (positive area).
 
+#include <initializer_list>
 #include <iosfwd>
 #include <list>
 #include <vector>
@@ -22,6 +23,8 @@ class polygon {
 
   polygon() = default;
   explicit polygon(std::vector<point> vertices, check_mode check = NO_CHECK, bool reverse = false);
+  polygon(std::initializer_list<point> vertices, check_mode check = NO_CHECK, bool reverse = false)
+      : polygon(std::vector<point>(vertices), check, reverse) {}
   explicit polygon(const std::list<point>& vertices, check_mode check = NO_CHECK,
                    bool reverse = false);
 
