@@ -7,7 +7,9 @@
 #include <iosfwd>
 #include <list>
 #include <string>
+#include <utility>
 
+#include "kernel/matrix.h"
 #include "model/location.h"
 
 namespace mero {
@@ -66,6 +68,37 @@ class facilities : public std::list<location> {
 
   // --- Rectilinear median (src/planar/l1_median.cpp) ---
   double l1_sum(int w, bool clear);
+
+  // --- Euclidean and lp medians (src/planar/l2_median.cpp, lp_median.cpp, linf_median.cpp) ---
+  double l2sqr_sum(int w, bool clear);
+  double l2_sum(int w, double eps, bool clear);
+  bool is_l2_optimal(const location& loc, int w) const;
+  double lp_sum(int p, double eps, double smoothing, int max_iterations, int w, bool clear);
+  bool is_lp_optimal(int p, std::list<location>::const_iterator node, int w) const;
+  location lp_step(const location& loc, int p, double smoothing, int w) const;
+  double linf_sum(int w, bool clear);
+
+  // --- Single-facility centers (src/planar/rectilinear_center.cpp, equal_weight_center.cpp,
+  // smallest_circle.cpp); all read weight column 0 ---
+  double linf_max(bool clear);
+  double l1_max(bool clear);
+  double linf_v1_max(bool clear);
+  double l1_v1_max(bool clear);
+  double l2_v1_max(bool clear);
+
+  // --- Efficient set of several weightings (src/planar/squared_qsum.cpp) ---
+  double l2sqr_qsum(bool clear);
+
+  // --- Multifacility problems (src/planar/multifacility_*.cpp) ---
+  // n new facilities: facility j weighs location i by weight column j, and facility k > j by
+  // V(j, k). optima receives one location per facility, in order of j, with weight entry 0 = j.
+  double N_l1_sum_v1(int n, const matrix& V, bool clear);
+  double N_l2sqr_sum(int n, const matrix& V, bool clear);
+  double N_linf_max(int n, const matrix& V, bool clear);
+  double N_l1_max(int n, const matrix& V, bool clear);
+  // The total cost c + d and the ratio d / c of interdependency cost d to location cost c.
+  std::pair<double, double> N_lp_sum_v1(int n, int p, const matrix& V, bool clear);
+  double N_linf_sum_v1(int n, const matrix& V);
 
  protected:
   std::list<location> optima_;

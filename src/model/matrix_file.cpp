@@ -1,0 +1,38 @@
+#include "model/matrix_file.h"
+
+#include "kernel/error_handler.h"
+#include "kernel/reporters.h"
+#include "model/model_messages.h"
+
+namespace mero {
+
+void matrix_scan::start(std::istream& input) {
+  reset(input, matrix_file_texts::syntax_error);
+  matrix_dim = 0;
+  entries.clear();
+  counter = 0;
+}
+
+matrix read_matrix(std::istream& in, const std::list<location>& locations) {
+  namespace texts = matrix_file_texts;
+  if (!in) report_error(texts::cannot_open, texts::open_code, 1, true);
+  matrix_scan scan;
+  scan.start(in);
+  if (scan_matrix_file(scan) == 1) report_error(scan.message, texts::syntax_code, 1, true);
+  if (locations.empty()) empty_list_error(model_messages::empty_list);
+  const int n = locations.front().weight_dim();
+  const std::size_t needed = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
+  if (scan.entries.size() < needed) {
+    const int have = static_cast<int>(scan.entries.size());
+    report_error(scan_format(texts::too_few_entries, {have, n * n, n, n}), texts::syntax_code, 1,
+                 true);
+  }
+  // Row by row in file order; numbers beyond n * n are left over.
+  matrix v(n, n);
+  auto next = scan.entries.begin();
+  for (int row = 0; row < n; ++row)
+    for (int col = 0; col < n; ++col) v(row, col) = *next++;
+  return v;
+}
+
+}  // namespace mero
