@@ -42,7 +42,6 @@ double open_set_value(const cost_table& t, const std::vector<int>& open);
 // Writes a solution into the problem: for each demand point the open supply point with the strict
 // smallest cost (the earliest on ties) gets 1.0 in `assignment`, and `opt` receives a copy of each
 // open supply location in ascending order.
-void publish_solution(discrete_problem& problem, const cost_table& t,
-                      const std::vector<int>& open);
+void publish_solution(discrete_problem& problem, const cost_table& t, const std::vector<int>& open);
 
 }  // namespace mero

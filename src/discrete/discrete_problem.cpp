@@ -10,8 +10,7 @@ namespace mero {
 
 cost_table make_cost_table(const discrete_problem& problem) {
   if (problem.demand.empty() || problem.supply.empty())
-    report_error(discrete_text::empty_problem, discrete_text::empty_problem_code, 1,
-                 windowed_mode);
+    report_error(discrete_text::empty_problem, discrete_text::empty_problem_code, 1, windowed_mode);
   cost_table t;
   t.m = static_cast<int>(problem.demand.size());
   t.n = static_cast<int>(problem.supply.size());

@@ -16,14 +16,14 @@ namespace mero {
 
 class discrete_problem {
  public:
-  matrix cost;                           // demand rows by supply columns
-  std::list<location> supply;            // weight(0) is the fixed cost
-  std::list<location> demand;            // one weight each
-  std::list<location> opt;               // result: the open supply points, ascending
-  std::list<std::string> demand_names;   // parallel to demand
-  std::list<std::string> supply_names;   // parallel to supply
-  matrix assignment;                     // result: 1.0 where demand i is served from supply j
-  bool supply_is_demand = false;         // the file had no supply block
+  matrix cost;                          // demand rows by supply columns
+  std::list<location> supply;           // weight(0) is the fixed cost
+  std::list<location> demand;           // one weight each
+  std::list<location> opt;              // result: the open supply points, ascending
+  std::list<std::string> demand_names;  // parallel to demand
+  std::list<std::string> supply_names;  // parallel to supply
+  matrix assignment;                    // result: 1.0 where demand i is served from supply j
+  bool supply_is_demand = false;        // the file had no supply block
 
   // Replaces the whole problem by the discrete file on in and clears the results. A syntax error
   // ends the run with code 3107 and the scanner's message.

@@ -41,7 +41,8 @@ inline constexpr const char* coordinate_expected =
     "Coordinate #%d expected in discrete file at line %d, found \"%s%%s\" instead.";
 inline constexpr const char* weight_expected =
     "Weight #%d expected in discrete file at line %d, found \"%s%%s\" instead";
-inline constexpr const char* second_name = "Second name (\"%s\") found in discrete file at line %d.";
+inline constexpr const char* second_name =
+    "Second name (\"%s\") found in discrete file at line %d.";
 inline constexpr const char* name_expected =
     "Name of location expected in discrete file at line %d, found \"%s%%s\" instead.";
 inline constexpr const char* end_of_line_expected =
@@ -62,5 +63,7 @@ inline constexpr const char* matrix_too_many_lines =
 inline constexpr const char* matrix_too_few_lines =
     "Number of lines in costmatrix  does not match dimension.";
 inline constexpr const char* matrix_unexpected = "unexpected text  in line %d: %s";
+// A file that ends after `begin {discrete}` but before its cost matrix.
+inline constexpr const char* unexpected_end = "Unexpected end of discrete file at line %d.";
 
 }  // namespace mero::discrete_text

@@ -150,7 +150,6 @@ void dual_ascent_solver::primal(const std::vector<double>& slack, node_state& s)
   }
 }
 
-
 // Ascent, then adjustment: each customer in turn is lowered one cost level from the best dual so
 // far, the others may take up what that frees, and the bound is kept when it rises. Returns the
 // best bound; s holds v and the primal solution of the best dual.

@@ -24,9 +24,8 @@ double closing_change(const cost_table& t, const std::set<int>& open_set,
                       const std::vector<double>& nearest, int j) {
   double increase = 0.0;
   for (int i = 0; i < t.m; ++i) {
-    const double s = t(i, j) <= nearest[i] + nearest_tolerance
-                         ? cheapest_open(t, open_set, i, j)
-                         : nearest[i];
+    const double s =
+        t(i, j) <= nearest[i] + nearest_tolerance ? cheapest_open(t, open_set, i, j) : nearest[i];
     if (s - t(i, j) > 0.0) increase += s - t(i, j);
   }
   return increase - t.f[j];

@@ -1,17 +1,15 @@
 #include <ostream>
 
+#include "discrete/discrete_file.h"
 #include "driver/run_context.h"
-#include "kernel/reporters.h"
 
 namespace mero {
 
-// Discrete files are not read by this build yet: say so instead of solving an empty problem.
-void load_discrete(run_context& ctx) {
-  report_error("Discrete files cannot be read by this build.", 3100, 1, ctx.request.windowed);
-}
+void load_discrete(run_context& ctx) { read_discrete_file(ctx.request.data_file, ctx.discrete); }
 
 std::size_t discrete_objective_size(const run_context&) { return 1; }
 
-void write_discrete_optima(run_context&, std::ostream&) {}
+// The result part of a discrete report is the problem in the discrete file's own form.
+void write_discrete_optima(run_context& ctx, std::ostream& report) { ctx.discrete.write(report); }
 
 }  // namespace mero

@@ -78,10 +78,10 @@ random_instance draw(std::mt19937& rng, int m, int n, int cost_range, int fixed_
 
 TEST(ufl_dualoc, matches_exhaustive_enumeration) {
   std::mt19937 rng(20261121);
-  const int shapes[][4] = {  // m, n, cost range, fixed cost range
-      {5, 3, 9, 9},      {8, 6, 20, 30},    {12, 8, 100, 150},   {20, 10, 1000, 2000},
-      {15, 12, 50, 100}, {30, 12, 10, 40},  {10, 12, 1000, 100}, {25, 11, 3, 5},
-      {40, 12, 500, 3000}};
+  const int shapes[][4] = {// m, n, cost range, fixed cost range
+                           {5, 3, 9, 9},         {8, 6, 20, 30},    {12, 8, 100, 150},
+                           {20, 10, 1000, 2000}, {15, 12, 50, 100}, {30, 12, 10, 40},
+                           {10, 12, 1000, 100},  {25, 11, 3, 5},    {40, 12, 500, 3000}};
   int instances = 0;
   for (const auto& s : shapes) {
     for (int round = 0; round < 25; ++round) {

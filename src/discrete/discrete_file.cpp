@@ -1,0 +1,93 @@
+#include "discrete/discrete_file.h"
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+
+#include "discrete/discrete_scan.h"
+#include "discrete/discrete_texts.h"
+#include "kernel/reporters.h"
+
+namespace mero {
+
+namespace {
+
+matrix cost_matrix(const discrete_scan& scan) {
+  const int rows = static_cast<int>(scan.demand.size());
+  const int columns = scan.columns();
+  matrix cost(rows, columns);
+  std::size_t next = 0;
+  for (int i = 0; i < rows; ++i)
+    for (int j = 0; j < columns; ++j) cost(i, j) = scan.costs[next++];
+  return cost;
+}
+
+// Each location line: the location's stream form (coordinates and weights, each with a blank),
+// then " [", the name and "]".
+void write_block(std::ostream& out, const std::list<location>& points,
+                 const std::list<std::string>& names) {
+  auto name = names.begin();
+  for (const location& l : points) {
+    out << l << " [" << (name != names.end() ? *name++ : std::string()) << "]\n";
+  }
+}
+
+}  // namespace
+
+void discrete_problem::read(std::istream& in) {
+  discrete_scan scan;
+  scan.start(in);
+  if (scan_discrete_file(scan) == 1)
+    report_error(scan.message, discrete_text::syntax_code, 1, windowed_mode);
+
+  cost = cost_matrix(scan);
+  demand = std::move(scan.demand);
+  demand_names = std::move(scan.demand_names);
+  supply_is_demand = !scan.has_supply_block;
+  if (supply_is_demand) {
+    supply = demand;
+    supply_names = demand_names;
+  } else {
+    supply = std::move(scan.supply);
+    supply_names = std::move(scan.supply_names);
+  }
+  opt.clear();
+  assignment = matrix(cost.dim1(), cost.dim2());
+}
+
+void discrete_problem::write(std::ostream& out) const {
+  out << "begin {discrete}\n";
+  out << "begin {demand}\n";
+  write_block(out, demand, demand_names);
+  out << "end {demand}\n";
+  if (!supply_is_demand) {
+    out << "begin {supply}\n";
+    write_block(out, supply, supply_names);
+    out << "end {supply}\n";
+  }
+  out << "begin {costmatrix}\n";
+  for (int i = 0; i < cost.dim1(); ++i) {
+    for (int j = 0; j < cost.dim2(); ++j) out << cost(i, j) << ' ';
+    out << '\n';
+  }
+  out << "end {costmatrix}\n";
+  out << "end {discrete}\n";
+}
+
+void read_discrete_file(const std::string& path, discrete_problem& problem) {
+  std::ifstream in;
+  if (!std::filesystem::is_directory(path)) in.open(path);
+  if (!in.is_open())
+    report_error(discrete_text::reader_open, discrete_text::reader_open_code, 1, windowed_mode);
+  problem.read(in);
+}
+
+void write_discrete_file(const std::string& path, const discrete_problem& problem) {
+  std::ofstream out;
+  if (!std::filesystem::is_directory(path)) out.open(path);
+  if (!out.is_open())
+    report_error(discrete_text::writer_open, discrete_text::writer_open_code, 1, windowed_mode);
+  problem.write(out);
+}
+
+}  // namespace mero
