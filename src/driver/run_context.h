@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "discrete/discrete_problem.h"
 #include "driver/algorithm_table.h"
 #include "driver/run_request.h"
 #include "kernel/matrix.h"
@@ -27,6 +28,7 @@ struct run_context {
   label_values label_args;         // filled by the handler for its label
   std::vector<double> objective;   // sized by the run; only entry 0 is written and reported
   matrix new_facility_costs;       // the dependency matrix of multifacility problems (-m)
+  discrete_problem discrete;       // the data and result of discrete problems (-d first)
 };
 
 // The kinds of main file. Each loads its file and writes its optima in its own file of this
