@@ -24,7 +24,7 @@ test: deps
 	@ctest --test-dir $(TEST_BUILD) --output-on-failure -j $(JOBS)
 
 bench: build
-	@for b in bench/*.sh; do echo "== $$b"; bash $$b || exit 1; done
+	@for b in $(wildcard bench/*.sh); do echo "== $$b"; bash $$b || exit 1; done
 
 clean:
 	rm -rf $(BUILD) $(TEST_BUILD) bin

@@ -30,5 +30,16 @@ TEST(kernel_error_handler, warning_returns_and_error_stops) {
   EXPECT_KERNEL_ERROR(kernel_error(1, "dlist::head(): empty list"), "dlist::head(): empty list");
 }
 
+TEST(kernel_error_handler, default_warning_block_on_the_error_stream) {
+  ::testing::internal::CaptureStderr();
+  default_kernel_error_handler(0, "graph has self-loops");
+  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "\nORBA WARNING\n\tgraph has self-loops\n\n");
+}
+
+TEST(kernel_error_handler, default_error_block_aborts) {
+  EXPECT_DEATH(default_kernel_error_handler(1, "dlist::head(): empty list"),
+               "\nORBA ERROR HANDLER\n\tdlist::head\\(\\): empty list\n");
+}
+
 }  // namespace
 }  // namespace mero
