@@ -52,18 +52,21 @@ double first_piece_end(const tent& t) {
   return t.rise_end >= 0.0 ? height(t, t.rise_end) : height(t, 1.0);
 }
 
-// Where piece a (of another tent) climbs above piece b (of the current tent) after pos: the lines'
-// crossing, when a is the steeper and the crossing lies on both pieces.
+// Where piece a (of another tent) climbs above piece b (of the current tent), at pos or after:
+// the lines' crossing, when a is the steeper and both pieces go on beyond the crossing. Several
+// tents may meet in one point; the walk then moves at that point from tent to ever steeper
+// tent, so it ends.
 bool climbs_above(const piece& a, const piece& b, double pos, point& at) {
   if (!a.exists() || !b.exists() || !(a.dy > b.dy)) return false;
   double x = (b.y0 - a.y0) / (a.dy - b.dy);
-  if (!(x > pos) || x > 1.0 || x < a.from || x > a.to || x < b.from || x > b.to) return false;
+  if (!(x >= pos) || !(x < a.to) || !(x < b.to) || x < a.from || x < b.from) return false;
   at = point(x, a.y0 + a.dy * x);
   return true;
 }
 
-// The first place after pos where tent k rises above the current tent, if any.
-bool first_rise(const tent& k, const tent& cur, double pos, point& at) {
+// The first place from pos on where tent k rises above the current tent, if any, with the slope
+// k leaves it at.
+bool first_rise(const tent& k, const tent& cur, double pos, point& at, double& slope) {
   const piece mine[2] = {rising_piece(k), falling_piece(k)};
   const piece theirs[2] = {falling_piece(cur), rising_piece(cur)};
   bool found = false;
@@ -72,6 +75,7 @@ bool first_rise(const tent& k, const tent& cur, double pos, point& at) {
       point x;
       if (climbs_above(a, b, pos, x) && (!found || x.xcoord() < at.xcoord())) {
         at = x;
+        slope = a.dy;
         found = true;
       }
     }
@@ -103,12 +107,17 @@ std::list<point> envelope_minima(const std::vector<tent>& tents) {
   double pos = 0.0;
   do {
     // 1.1 stands above every t.
+    // Of tents meeting the current one in the same point, the steepest takes over.
     point next(1.1, 0.0);
+    double next_slope = 0.0;
     std::size_t next_cur = cur;
     for (std::size_t k = 0; k < tents.size(); ++k) {
       point x;
-      if (k != cur && first_rise(tents[k], tents[cur], pos, x) && x.xcoord() < next.xcoord()) {
+      double slope = 0.0;
+      if (k == cur || !first_rise(tents[k], tents[cur], pos, x, slope)) continue;
+      if (x.xcoord() < next.xcoord() || (x.xcoord() == next.xcoord() && slope > next_slope)) {
         next = x;
+        next_slope = slope;
         next_cur = k;
       }
     }
