@@ -131,22 +131,34 @@ void facilities::l1_to_linf() { l1_to_linf(*this); }
 
 void facilities::linf_to_l1() { linf_to_l1(*this); }
 
+namespace {
+
+struct sort_entry {
+  double key;     // coordinate c
+  double weight;  // weight w
+  const location* source;
+};
+
+}  // namespace
+
 std::list<location> facilities::sorted_merged(int c, int w) const {
-  // Sorting pointers with a stable sort gives the order that sorting a copy of the list would,
-  // without copying every location twice.
-  std::vector<const location*> order;
+  // A stable sort of the keys gives the order that sorting a copy of the list with
+  // compare_by_coordinate would; reading key and weight in list order first spares a pointer
+  // chase for every comparison and every merge.
+  std::vector<sort_entry> order;
   order.reserve(size());
-  for (const location& l : *this) order.push_back(&l);
-  sort_coordinate = c;
-  std::stable_sort(order.begin(), order.end(), [](const location* a, const location* b) {
-    return compare_by_coordinate(*a, *b) < 0;
-  });
+  for (const location& l : *this) order.push_back({l.coordinate(c), l.weight(w), &l});
+  std::stable_sort(order.begin(), order.end(),
+                   [](const sort_entry& a, const sort_entry& b) { return a.key < b.key; });
   std::list<location> merged;
-  for (const location* l : order) {
-    if (!merged.empty() && merged.back().coordinate(c) == l->coordinate(c))
-      merged.back().weight_ref(w) += l->weight(w);
-    else
-      merged.push_back(*l);
+  double last_key = 0.0;
+  for (const sort_entry& e : order) {
+    if (!merged.empty() && last_key == e.key) {
+      merged.back().weight_ref(w) += e.weight;
+    } else {
+      merged.push_back(*e.source);
+      last_key = e.key;
+    }
   }
   return merged;
 }
