@@ -1,17 +1,24 @@
-#include <ostream>
+#include <iostream>
 
 #include "driver/run_context.h"
-#include "kernel/reporters.h"
+#include "network/graph_file_io.h"
 
 namespace mero {
 
-// Graph files are not read by this build yet: say so instead of solving an empty graph.
-void load_graph(run_context& ctx) {
-  report_error("Graph files cannot be read by this build.", 2100, 1, ctx.request.windowed);
+void load_graph(run_context& ctx) { read_graph(ctx.request.data_file, ctx.graph, ctx.problem); }
+
+// One entry per criterion: the weight dimension of the nodes (1 for an empty graph).
+std::size_t graph_objective_size(const run_context& ctx) {
+  const location_graph& g = ctx.graph;
+  if (g.first_node() == nullptr || g.inf(g.first_node()).weights.empty()) return 1;
+  return g.inf(g.first_node()).weights.size();
 }
 
-std::size_t graph_objective_size(const run_context&) { return 1; }
-
-void write_graph_optima(run_context&, std::ostream&) {}
+// The points stand on standard output whatever the report's target is: a report file of a graph
+// problem ends with "end {result}" and holds no points.
+void write_graph_optima(run_context& ctx, std::ostream&) {
+  write_graphpointset(std::cout, ctx.graph.optima);
+  std::cout.flush();
+}
 
 }  // namespace mero

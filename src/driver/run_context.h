@@ -13,6 +13,7 @@
 #include "driver/run_request.h"
 #include "kernel/matrix.h"
 #include "model/facilities.h"
+#include "network/location_graph.h"
 
 namespace mero {
 
@@ -29,6 +30,7 @@ struct run_context {
   std::vector<double> objective;   // sized by the run; only entry 0 is written and reported
   matrix new_facility_costs;       // the dependency matrix of multifacility problems (-m)
   discrete_problem discrete;       // the data and result of discrete problems (-d first)
+  location_graph graph;            // the graph of network problems (-g), with their optima
 };
 
 // The kinds of main file. Each loads its file and writes its optima in its own file of this

@@ -38,6 +38,15 @@ struct location_scan : scan_state {
   bool name_seen = false;
   bool first_call = true;
 
+  // The adjacency part of a graph file: one entry per line, node numbers from 1 as written.
+  // graph_nodes is set where the location part of a graph file ends, graph_edges where the
+  // adjacency part ends; the graph reader builds the graph from these.
+  std::vector<int> adjacency_sources;
+  std::vector<int> adjacency_targets;
+  std::vector<double> adjacency_lengths;
+  bool graph_nodes = false;
+  bool graph_edges = false;
+
   bool is_graph_file() const;
   bool is_gauge_file() const;
   // Empties every list and starts a fresh read of input as a file of the given type.
