@@ -4,7 +4,9 @@
 #include <fstream>
 
 #include "driver/family.h"
+#include "driver/lpinfo.h"
 #include "driver/run_context.h"
+#include "kernel/reporters.h"
 #include "model/matrix_file.h"
 
 namespace mero {
@@ -34,6 +36,25 @@ double solve_N_l2sqr_sum(run_context& ctx, int) {
   return keep_optima(ctx, ctx.problem.N_l2sqr_sum(n, ctx.new_facility_costs, true));
 }
 
+double solve_N_l2_sum_v1(run_context& ctx, int) {
+  const int n = load_dependencies(ctx);
+  return keep_optima(ctx, ctx.problem.N_lp_sum_v1(n, 2, ctx.new_facility_costs, true).first);
+}
+
+double solve_N_linf_sum_v1(run_context& ctx, int) {
+  const int n = load_dependencies(ctx);
+  return keep_optima(ctx, ctx.problem.N_linf_sum_v1(n, ctx.new_facility_costs));
+}
+
+// p comes from lpinfo, which -p wrote; a file that cannot be read leaves no p at all.
+double solve_N_lp_sum_v1(run_context& ctx, int) {
+  const int n = load_dependencies(ctx);
+  const std::optional<lp_info> info = read_lpinfo();
+  if (!info) report_error("Missing p-value for lp-algorithm.", 1011, 1, ctx.request.windowed);
+  ctx.label_args.p = info->p;
+  return keep_optima(ctx, ctx.problem.N_lp_sum_v1(n, info->p, ctx.new_facility_costs, true).first);
+}
+
 double solve_N_l1_max(run_context& ctx, int) {
   const int n = load_dependencies(ctx);
   return keep_optima(ctx, ctx.problem.N_l1_max(n, ctx.new_facility_costs, true));
@@ -47,9 +68,8 @@ double solve_N_linf_max(run_context& ctx, int) {
 }  // namespace
 
 std::vector<family_case> multifacility_cases() {
-  return {{20, solve_N_l1_sum_v1},
-          {21, solve_N_l2sqr_sum},
-          {40, solve_N_l1_max},
+  return {{20, solve_N_l1_sum_v1},   {21, solve_N_l2sqr_sum}, {22, solve_N_l2_sum_v1},
+          {23, solve_N_linf_sum_v1}, {24, solve_N_lp_sum_v1}, {40, solve_N_l1_max},
           {41, solve_N_linf_max}};
 }
 

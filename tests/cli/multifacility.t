@@ -77,6 +77,76 @@ d(B) = 2.8; (5.8, 0.6) is such a point, and facility 0 at (0.8, 0.8) stays well 
   end {polygonlist}
   end {result}
 
+The heuristics locate each new facility alone, by its own weight column, and count the ties
+only in the value. Here (1, 1) weighs 5 of 7 in column 0 and (4, 2) weighs 7 of 9 in column 1,
+so each pins its facility whatever the norm; the tie is 2. Euclidean: location cost
+(sqrt 10 + sqrt 13) + (sqrt 10 + sqrt 37), tie cost 2 sqrt 10, together 22.3374.
+
+  $ P=$DATA/multifacility_pinned.loc
+  $ M2=$DATA/multifacility_tie_two.mat
+  $ $MERO -a N_l2_sum_v1 -l $P -m $M2 --output=nowindowed
+  begin {result}
+  begin {classification}
+  2|P|.|l2|sum
+  end {classification}
+  begin {objective value} 
+  22.3374
+  end {objective value}
+  begin {polygonlist}
+  1 1 
+  4 2 
+  end {polygonlist}
+  end {result}
+
+Maximum norm: (3 + 3) + (3 + 6) for the locations and 2 * 3 for the tie.
+
+  $ $MERO -a N_linf_sum_v1 -l $P -m $M2 --output=nowindowed
+  begin {result}
+  begin {classification}
+  2|P|.|linf|sum
+  end {classification}
+  begin {objective value} 
+  21
+  end {objective value}
+  begin {polygonlist}
+  1 1 
+  4 2 
+  end {polygonlist}
+  end {result}
+
+N_lp_sum_v1 takes p from lpinfo, which -p writes into the directory $tmp. p = 1:
+(4 + 5) + (4 + 7) + 2 * 4 = 28; p = 3: the l3 lengths of (3, 1), (3, 2), (6, 1) are the cube
+roots of 28, 35 and 217, and 2 (28^(1/3)) + 35^(1/3) + 217^(1/3) + 2 (28^(1/3)) = 21.4267.
+
+  $ export tmp=$PWD
+  $ $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 1 --output=nowindowed | sed -n 3,6p
+  2|P|.|l1|sum
+  end {classification}
+  begin {objective value} 
+  28
+  $ $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 3 --output=nowindowed
+  begin {result}
+  begin {classification}
+  2|P|.|l3|sum
+  end {classification}
+  begin {objective value} 
+  21.4267
+  end {objective value}
+  begin {polygonlist}
+  1 1 
+  4 2 
+  end {polygonlist}
+  end {result}
+
+A norm that does not exist, and a p that could not be stored.
+
+  $ $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 0 --output=nowindowed
+  MERO error: Bad p-Norm argument in location::norm(int p). ErrorCode: 1201
+  [1]
+  $ tmp=/nonexistent $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 3 --output=nowindowed
+  MERO error: Missing p-value for lp-algorithm. ErrorCode: 1011
+  [1]
+
 A location header is read as a matrix with rows of two; text before the header goes to the
 console as it stands, without its blanks and line ends.
 
