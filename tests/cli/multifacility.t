@@ -154,6 +154,12 @@ console as it stands, without its blanks and line ends.
   tiebetweenthetwonewfacilitiesbegin {result}
   begin {classification}
 
+Keywords in any case, no blanks in the header, carriage returns and an empty line between rows.
+
+  $ printf 'BEGIN{MATRIX}[2]\r\n0 1\r\n\r\n1 0\r\nEND\r\n' > crlf.mat
+  $ $MERO -a N_l1_sum_v1 -l $L -m crlf.mat --output=nowindowed | sed -n 6p
+  44
+
 The matrix file's messages.
 
   $ $MERO -a N_l1_sum_v1 -l $L -m no_such.mat --output=nowindowed
