@@ -4,6 +4,7 @@
 // line counting, the newline rule, and the composition of messages whose last part is the rest of
 // the offending line (the ERROR_TAIL state).
 //
+// clang-format off
 // Flex cannot include rules from another file, so each .l repeats these few lines, which are the
 // same in every format:
 //
@@ -20,12 +21,13 @@
 //   <states>"/*"                { yyextra->comment_return = YY_START; BEGIN(COMMENT); }
 //   <COMMENT>"*/"               BEGIN(yyextra->comment_return);
 //   <COMMENT>\n|.               ;
-//   <line-break states>\n       if (mero::newline_is_illegal(*yyextra)) return
-//   mero::scan_stop(...); <ERROR_TAIL>[^\r\n]+        return mero::scan_finish_tail(*yyextra,
-//   yytext); <ERROR_TAIL>[\r\n]          return mero::scan_finish_tail(*yyextra, "");
+//   <line-break states>\n       if (mero::newline_is_illegal(*yyextra)) return mero::scan_stop(...);
+//   <ERROR_TAIL>[^\r\n]+        return mero::scan_finish_tail(*yyextra, yytext);
+//   <ERROR_TAIL>[\r\n]          return mero::scan_finish_tail(*yyextra, "");
 //
 // A number is `real`, a sign, digits, an optional point with digits and an optional exponent; it
 // cannot start with a point. scan_real converts it with the C rules of atof.
+// clang-format on
 
 #include <cstddef>
 #include <initializer_list>
