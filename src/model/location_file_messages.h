@@ -35,6 +35,13 @@ inline constexpr const char* end_of_line_expected =
 inline constexpr const char* name_expected =
     "Name of location expected in location file at line %d, found \"%s%%s\" instead.";
 
+// The adjacency part of a graph file. Two blanks after "text" in the last two, and a blank before
+// the colon in the last one.
+inline constexpr const char* adjacency_expected = "'begin {adjlist}' expected in line %d";
+inline constexpr const char* unknown_name = "unexpected text '%s' in line %d";
+inline constexpr const char* unexpected_index_text = "unexpected text  in line %d: %s";
+inline constexpr const char* unexpected_cost_text = "unexpected text  in line %d : %s";
+
 // The writer's message for a name that the reader could not read back; it ends the process.
 inline constexpr const char* illegal_brackets_head = "Illegal brackets in location name\"";
 inline constexpr const char* illegal_brackets_tail = "\" replaced by parentheses";

@@ -29,5 +29,25 @@ TEST(graph_file_io, adjacency_and_graph_writers) {
   EXPECT_REPORT(read_graph("/nonexistent/dir/a", read_back, locations), 2111, "Can't open file!");
 }
 
+TEST(graph_file_io, written_graph_reads_back) {
+  location_graph g = testing::make_location_graph({1, 2.5, 3}, {{0, 1, 1.5}, {2, 0, 4}});
+  std::string path = ::testing::TempDir() + "network_round_trip.graph";
+  write_graph(path, g, facilities());
+  location_graph back;
+  facilities locations;
+  locations.emplace_back(2, 1);  // replaced by the read
+  read_graph(path, back, locations);
+  EXPECT_TRUE(locations.empty());  // nodes without coordinates leave no locations
+  ASSERT_EQ(back.number_of_nodes(), 3);
+  std::vector<double> weights;
+  for (node v : back.all_nodes()) weights.push_back(head_weight(back, v));
+  EXPECT_EQ(weights, (std::vector<double>{1, 2.5, 3}));
+  std::vector<edge> edges = back.all_edges();
+  ASSERT_EQ(edges.size(), 2u);
+  EXPECT_EQ(graph::index(graph::source(edges[1])), 2);
+  EXPECT_EQ(graph::index(graph::target(edges[1])), 0);
+  EXPECT_EQ(back.inf(edges[0]), 1.5);
+}
+
 }  // namespace
 }  // namespace mero
