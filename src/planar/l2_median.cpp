@@ -53,6 +53,8 @@ weiszfeld_step step_from(const facilities& problem, const std::vector<weighted_p
 
 }  // namespace
 
+// Squared Euclidean median of column w: the centre of gravity, in closed form, O(n). optima
+// receives that point with weight entry 0 = w. A zero weight sum is not checked.
 double facilities::l2sqr_sum(int w, bool clear) {
   if (clear) optima_.clear();
   const weighted_point g = centre_of_gravity(weighted_points(*this, w));
@@ -67,6 +69,7 @@ double facilities::l2sqr_sum(int w, bool clear) {
   return value;
 }
 
+// Whether loc minimises the Euclidean sum: the subgradient test, O(n).
 bool facilities::is_l2_optimal(const location& loc, int w) const {
   const double x = loc.coordinate(0), y = loc.coordinate(1);
   double sx = 0.0, sy = 0.0;
@@ -84,6 +87,10 @@ bool facilities::is_l2_optimal(const location& loc, int w) const {
   return sx * sx + sy * sy <= own * own;
 }
 
+// Euclidean median of column w: Weiszfeld's iteration (Weiszfeld 1937) from the centre of gravity,
+// O(n) per step, stopped when the objective falls by less than eps relatively; a location that
+// the iterate comes near and that passes the subgradient test is returned exactly. optima receives
+// one point with weight entry 0 = w. eps not positive: error 1308.
 double facilities::l2_sum(int w, double eps, bool clear) {
   if (!(eps > 0.0)) report_single_facility_error(single_facility_messages::l2_eps);
   std::vector<bool> tested(size(), false);

@@ -68,6 +68,11 @@ location facilities::lp_step(const location& loc, int p, double smoothing, int w
   return result_location(next.x, next.y, 0.0);
 }
 
+// lp median of column w: the first location that passes the subgradient test (O(n^2) for all
+// tests), else the smoothed iteration from the centre of gravity, O(n) per step, until a step is
+// shorter than eps or max_iterations steps were made (then the better of the last two iterates).
+// optima receives one point with weight entry 0 = w. p below 1: error 1310; no positive eps and
+// no positive bound: error 1309.
 double facilities::lp_sum(int p, double eps, double smoothing, int max_iterations, int w,
                           bool clear) {
   if (p < 1) report_single_facility_error(single_facility_messages::lp_exponent);
