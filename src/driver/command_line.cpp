@@ -96,7 +96,8 @@ bool parser::accept(const std::string& opt, const std::string& value) {
     request.gauge_file = value;
     have_gauge = request.have_gauge = true;
   } else if (opt == "-p" && !have_p) {
-    write_lpinfo(std::atoi(value.c_str()));
+    request.p = std::atoi(value.c_str());
+    write_lpinfo(*request.p);
     have_p = true;
   } else if (opt == "-n" && !have_n) {
     request.second_file = value;

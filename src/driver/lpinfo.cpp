@@ -25,4 +25,11 @@ std::optional<lp_info> read_lpinfo() {
   return info;
 }
 
+lp_info read_lpinfo_or_written(std::optional<int> p) {
+  if (std::optional<lp_info> info = read_lpinfo()) return *info;
+  lp_info written;
+  written.p = p.value_or(0);
+  return written;
+}
+
 }  // namespace mero

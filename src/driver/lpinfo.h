@@ -23,4 +23,8 @@ void write_lpinfo(int p);
 // Reads the four values; empty when the file cannot be opened.
 std::optional<lp_info> read_lpinfo();
 
+// Reads the four values; when the file cannot be opened, the values that -p writes, with the p of
+// the command line (0 when there was none).
+lp_info read_lpinfo_or_written(std::optional<int> p);
+
 }  // namespace mero

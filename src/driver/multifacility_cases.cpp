@@ -46,13 +46,12 @@ double solve_N_linf_sum_v1(run_context& ctx, int) {
   return keep_optima(ctx, ctx.problem.N_linf_sum_v1(n, ctx.new_facility_costs));
 }
 
-// p comes from lpinfo, which -p wrote; a file that cannot be read leaves no p at all.
+// p comes from lpinfo, which -p wrote; when it cannot be read, from -p itself.
 double solve_N_lp_sum_v1(run_context& ctx, int) {
   const int n = load_dependencies(ctx);
-  const std::optional<lp_info> info = read_lpinfo();
-  if (!info) report_error("Missing p-value for lp-algorithm.", 1011, 1, ctx.request.windowed);
-  ctx.label_args.p = info->p;
-  return keep_optima(ctx, ctx.problem.N_lp_sum_v1(n, info->p, ctx.new_facility_costs, true).first);
+  const int p = read_lpinfo_or_written(ctx.request.p).p;
+  ctx.label_args.p = p;
+  return keep_optima(ctx, ctx.problem.N_lp_sum_v1(n, p, ctx.new_facility_costs, true).first);
 }
 
 double solve_N_l1_max(run_context& ctx, int) {

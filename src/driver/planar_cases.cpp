@@ -58,11 +58,10 @@ double solve_l2_sum(run_context& ctx, int) {
   return value;
 }
 
-// Number 3, lp_sum: all four values from lpinfo. When it cannot be read, the tolerances that -p
-// writes (eps and smoothing 0.0001, 50 steps) stand in, but p itself is then unknown (0), which
-// lp_sum refuses.
+// Number 3, lp_sum: all four values from lpinfo. When it cannot be read (the directory was not
+// writable, say), the values that -p writes stand in: its p, eps and smoothing 0.0001, 50 steps.
 double solve_lp_sum(run_context& ctx, int) {
-  const lp_info info = read_lpinfo().value_or(lp_info{});
+  const lp_info info = read_lpinfo_or_written(ctx.request.p);
   const double value =
       ctx.problem.lp_sum(info.p, info.eps, info.smoothing, info.max_iterations, 0, true);
   ctx.results = ctx.problem.optima();

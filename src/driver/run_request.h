@@ -16,6 +16,8 @@ struct run_request {
   std::optional<std::string> second_file;
   std::string gauge_file;
   std::string output_file;  // empty: the report goes to standard output
+  // The p of -p, for solvers that fall back to what -p writes when lpinfo cannot be read.
+  std::optional<int> p;
   bool windowed = true;
   bool graph_input = false;
   bool have_gauge = false;

@@ -138,14 +138,27 @@ roots of 28, 35 and 217, and 2 (28^(1/3)) + 35^(1/3) + 217^(1/3) + 2 (28^(1/3)) 
   end {polygonlist}
   end {result}
 
-A norm that does not exist, and a p that could not be stored.
+A norm that does not exist.
 
   $ $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 0 --output=nowindowed
   MERO error: Bad p-Norm argument in location::norm(int p). ErrorCode: 1201
   [1]
+
+When lpinfo cannot be written or read, the p of -p stands in: the same l3 result as above.
+
   $ tmp=/nonexistent $MERO -a N_lp_sum_v1 -l $P -m $M2 -p 3 --output=nowindowed
-  MERO error: Missing p-value for lp-algorithm. ErrorCode: 1011
-  [1]
+  begin {result}
+  begin {classification}
+  2|P|.|l3|sum
+  end {classification}
+  begin {objective value} 
+  21.4267
+  end {objective value}
+  begin {polygonlist}
+  1 1 
+  4 2 
+  end {polygonlist}
+  end {result}
 
 A location header is read as a matrix with rows of two; text before the header goes to the
 console as it stands, without its blanks and line ends.

@@ -188,9 +188,18 @@ With every weight zero the whole plane is optimal: a message, status 0, no repor
   $ $MERO -a linf_sum -l $DATA/planar_zero_weights.loc --output=nowindowed
   MERO message: facilities::l1_sum(): All weights are equal zero:The whole plane is optimal
 
-lp_sum without a readable lpinfo: the tolerances default to those that -p writes, but p itself
-is lost with the file, and lp_sum refuses an exponent below 1.
+lp_sum without a readable lpinfo (its directory does not exist): the values that -p writes stand
+in, p = 3 included, so the result is the l3 centre (2,1) of value 8.32034 as above.
 
   $ tmp=$PWD/missing $MERO -a lp_sum -p 3 -l $DATA/planar_rectangle.loc --output=nowindowed
-  MERO error: facilities::lp_sum(): p must be at least 1. ErrorCode: 1310
-  [1]
+  begin {result}
+  begin {classification}
+  1|P|.|l3 with eps: 1.000E-04|sum
+  end {classification}
+  begin {objective value} 
+  8.32034
+  end {objective value}
+  begin {polygonlist}
+  2 1 
+  end {polygonlist}
+  end {result}
