@@ -102,6 +102,10 @@ class facilities : public std::list<location> {
 
  protected:
   std::list<location> optima_;
+
+  // Runs a maximum-norm center solver on the locations mapped by (x, y) -> (x - y, x + y), where
+  // maximum-norm distances of images are l1 distances of the originals, and maps the optima back.
+  double solve_in_rotated_plane(double (facilities::*linf_solver)(bool), bool clear);
 };
 
 }  // namespace mero

@@ -49,12 +49,7 @@ double facilities::linf_v1_max(bool clear) {
 // Rectilinear center with equal weights: linf_v1_max on the locations mapped by
 // (x, y) -> (x - y, x + y), optima mapped back. Checks and degenerate cases as there.
 double facilities::l1_v1_max(bool clear) {
-  facilities scratch = *this;
-  scratch.linf_to_l1();
-  const double value = scratch.linf_v1_max(clear);
-  optima_ = scratch.optima_;
-  l1_to_linf(optima_);
-  return value;
+  return solve_in_rotated_plane(&facilities::linf_v1_max, clear);
 }
 
 }  // namespace mero

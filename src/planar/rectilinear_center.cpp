@@ -82,16 +82,19 @@ double facilities::linf_max(bool clear) {
   return z;
 }
 
-// Weighted rectilinear center: maps every location by (x, y) -> (x - y, x + y), under which the
-// maximum-norm distance of images is the l1 distance of the originals, solves linf_max there and
-// maps the optima back. The value needs no new evaluation. Degenerate cases as in linf_max.
-double facilities::l1_max(bool clear) {
+double facilities::solve_in_rotated_plane(double (facilities::*linf_solver)(bool), bool clear) {
   facilities scratch = *this;
   scratch.linf_to_l1();
-  const double value = scratch.linf_max(clear);
+  const double value = (scratch.*linf_solver)(clear);
   optima_ = scratch.optima_;
   l1_to_linf(optima_);
   return value;
+}
+
+// Weighted rectilinear center: linf_max in the rotated plane, optima mapped back. The value
+// needs no new evaluation. Degenerate cases as in linf_max.
+double facilities::l1_max(bool clear) {
+  return solve_in_rotated_plane(&facilities::linf_max, clear);
 }
 
 }  // namespace mero
