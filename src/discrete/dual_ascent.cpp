@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <vector>
@@ -37,48 +38,87 @@ struct node_state {
   double z = 0.0;
 };
 
-struct dual_ascent_solver {
-  const cost_table& C;
+// The slack of each facility, with the number of entries above the tolerance ("hot"). Dual
+// feasibility keeps every slack at or below the tolerance, so hot is 0 unless rounding pushed one
+// over; the ascent then falls back to examining every facility.
+struct slack_values {
+  std::vector<double> value;
+  int hot = 0;
+};
 
-  std::vector<double> slack_of(const std::vector<double>& f, const std::vector<double>& v) const;
-  void ascend(std::vector<double>& v, std::vector<double>& slack, int i, int& unchanged) const;
-  void raise_dual(int i, std::vector<double>& v, std::vector<double>& slack) const;
+struct dual_ascent_solver {
+  explicit dual_ascent_solver(const cost_table& t);
+
+  const cost_table& C;
+  // Row by row, the columns in ascending order of cost (the smaller index first on ties), and
+  // the costs in that order: a customer's next cost level and the facilities its dual has
+  // reached are then a prefix of its row.
+  std::vector<int> by_cost;
+  std::vector<double> sorted_cost;
+
+  slack_values slack_of(const std::vector<double>& f, const std::vector<double>& v) const;
+  void ascend(std::vector<double>& v, slack_values& slack, int i, int& unchanged) const;
+  void raise_dual(int i, std::vector<double>& v, slack_values& slack) const;
   void primal(const std::vector<double>& slack, node_state& s) const;
   double dual_ascent(const node_problem& p, node_state& s) const;
   int branch_variable(const node_problem& p, const node_state& s) const;
   bool branch(const node_problem& parent, node_state& s, bool close) const;
 };
 
-std::vector<double> dual_ascent_solver::slack_of(const std::vector<double>& f,
-                                                 const std::vector<double>& v) const {
-  std::vector<double> slack(C.n);
-  for (int j = 0; j < C.n; ++j) slack[j] = -f[j];
+dual_ascent_solver::dual_ascent_solver(const cost_table& t)
+    : C(t), by_cost(t.c.size()), sorted_cost(t.c.size()) {
   for (int i = 0; i < C.m; ++i) {
+    int* cols = by_cost.data() + static_cast<std::size_t>(i) * C.n;
+    std::iota(cols, cols + C.n, 0);
     const double* row = C.row(i);
-    for (int j = 0; j < C.n; ++j)
-      if (v[i] > row[j]) slack[j] += v[i] - row[j];
+    std::stable_sort(cols, cols + C.n, [row](int a, int b) { return row[a] < row[b]; });
+    for (int t = 0; t < C.n; ++t) sorted_cost[static_cast<std::size_t>(i) * C.n + t] = row[cols[t]];
   }
+}
+
+slack_values dual_ascent_solver::slack_of(const std::vector<double>& f,
+                                          const std::vector<double>& v) const {
+  slack_values slack{std::vector<double>(C.n), 0};
+  for (int j = 0; j < C.n; ++j) slack.value[j] = -f[j];
+  // The facilities that customer i pays into are those cheaper than v[i], a prefix of its row.
+  for (int i = 0; i < C.m; ++i) {
+    const std::size_t at = static_cast<std::size_t>(i) * C.n;
+    const double* costs = sorted_cost.data() + at;
+    const int below = static_cast<int>(std::lower_bound(costs, costs + C.n, v[i]) - costs);
+    for (int t = 0; t < below; ++t) slack.value[by_cost[at + t]] += v[i] - costs[t];
+  }
+  for (double x : slack.value)
+    if (x > tolerance) ++slack.hot;
   return slack;
 }
 
 // One step for customer i: lift v[i] to the next cost level, or as far as the first facility
 // whose slack runs out allows, and book the rise in the slack of every facility it reaches.
-void dual_ascent_solver::raise_dual(int i, std::vector<double>& v,
-                                    std::vector<double>& slack) const {
+// Only facilities cheaper than the next level can be reached or limit the rise (a dearer one
+// limits it only with a slack above the tolerance, the hot case), so the step looks at the
+// prefix of the row below that level.
+void dual_ascent_solver::raise_dual(int i, std::vector<double>& v, slack_values& slack) const {
   const double* row = C.row(i);
-  double next = infinite_cost;
-  for (int j = 0; j < C.n; ++j)
-    if (row[j] > v[i] + tolerance && row[j] < next) next = row[j];
+  const std::size_t at = static_cast<std::size_t>(i) * C.n;
+  const double* costs = sorted_cost.data() + at;
+  const int p = static_cast<int>(std::upper_bound(costs, costs + C.n, v[i] + tolerance) - costs);
+  const double next = p < C.n ? costs[p] : infinite_cost;
+  const bool all = slack.hot > 0;
+  const int count = all ? C.n : p;
+  auto column = [&](int t) { return all ? t : by_cost[at + t]; };
+
   bool limited = false;
   double delta = infinite_cost;
   int k = -1;
-  for (int j = 0; j < C.n; ++j) {
+  for (int t = 0; t < count; ++t) {
+    const int j = column(t);
     double r = next - v[i];
     if (v[i] - row[j] <= tolerance) r = next - row[j] > tolerance ? next - row[j] : 0.0;
-    if (slack[j] + r > tolerance) {
+    if (slack.value[j] + r > tolerance) {
       limited = true;
-      if (-slack[j] < delta) {
-        delta = -slack[j];
+      // The smallest remaining slack limits; among equal ones the smallest index.
+      if (-slack.value[j] < delta || (-slack.value[j] == delta && j < k)) {
+        delta = -slack.value[j];
         k = j;
       }
     }
@@ -91,16 +131,19 @@ void dual_ascent_solver::raise_dual(int i, std::vector<double>& v,
     v[i] = next;
   else
     v[i] = v[i] - row[k] <= tolerance ? row[k] + delta : v[i] + delta;
-  for (int j = 0; j < C.n; ++j) {
+  for (int t = 0; t < count; ++t) {
+    const int j = column(t);
+    const bool was_hot = slack.value[j] > tolerance;
     if (old - row[j] > tolerance)
-      slack[j] += v[i] - old;
+      slack.value[j] += v[i] - old;
     else if (v[i] - row[j] > tolerance)
-      slack[j] += v[i] - row[j];
+      slack.value[j] += v[i] - row[j];
+    slack.hot += (slack.value[j] > tolerance) - was_hot;
   }
 }
 
 // Visits the customers cyclically from i until m visits in a row changed nothing.
-void dual_ascent_solver::ascend(std::vector<double>& v, std::vector<double>& slack, int i,
+void dual_ascent_solver::ascend(std::vector<double>& v, slack_values& slack, int i,
                                 int& unchanged) const {
   while (unchanged < C.m) {
     if (i >= C.m) i = 0;
@@ -154,7 +197,7 @@ void dual_ascent_solver::primal(const std::vector<double>& slack, node_state& s)
 // far, the others may take up what that frees, and the bound is kept when it rises. Returns the
 // best bound; s holds v and the primal solution of the best dual.
 double dual_ascent_solver::dual_ascent(const node_problem& p, node_state& s) const {
-  std::vector<double> slack = slack_of(p.fixed_cost, s.v);
+  slack_values slack = slack_of(p.fixed_cost, s.v);
   std::vector<double> best_v = s.v;
   int unchanged = 0;
   int adjust = 0;
@@ -170,7 +213,7 @@ double dual_ascent_solver::dual_ascent(const node_problem& p, node_state& s) con
     } else {
       b = sum;
       best_v = s.v;
-      primal(slack, s);
+      primal(slack.value, s);
       have_primal = true;
     }
     if (std::fabs(s.z - p.forced_open_cost - sum) < tolerance || adjust >= C.m) break;
@@ -242,7 +285,7 @@ void check_dualoc_range(const cost_table& t) {
 double discrete_problem::UFL_Dualoc() {
   const cost_table t = make_cost_table(*this);
   check_dualoc_range(t);
-  const dual_ascent_solver solver{t};
+  const dual_ascent_solver solver(t);
   node_problem root{t.f, std::vector<fixing>(t.n, fixing::free), 0.0};
   node_state s{std::vector<double>(t.m, 0.0), std::vector<double>(t.n, 0.0),
                std::vector<int>(t.m, 0),
