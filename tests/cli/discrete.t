@@ -144,3 +144,47 @@ Files that cannot be read, and one bad file for each message of the reader.
   status 1
   MERO error: Unexpected end of discrete file at line 5. ErrorCode: 3107
   status 1
+
+The OR-Library converter: sites become supply points (the capacity, here also the word
+"capacity", is dropped), customers demand points, and the costs one row per customer. Opening
+site2 alone costs 4 + 8 + 3 + 2 = 17, site1 alone 10 + 1.5 + 6 + 9 = 26.5, both 20.5.
+
+  $ cat > tiny.txt <<'ORLIB'
+  > 2 3
+  >  capacity 10.
+  >  5000 4
+  >  7 1.5 8
+  >  2 6 3
+  >  4 9
+  >  2.
+  > ORLIB
+  $ $TESTDIR/../../scripts/orlib-ufl-to-mero tiny.txt tiny.dat
+  $ cat tiny.dat
+  begin {discrete}
+  // converted from an OR-Library uncapacitated warehouse location file:
+  // 2 sites (supply), 3 customers (demand); positions are a layout only
+  begin {demand}
+  0 2 7 [customer1]
+  1 2 2 [customer2]
+  2 2 4 [customer3]
+  end {demand}
+  begin {supply} 1
+  0 0 10. [site1]
+  1 0 4 [site2]
+  end {supply}
+  begin {costmatrix}
+  1.5 8
+  6 3
+  9 2.
+  end {costmatrix}
+  end {discrete}
+  $ $MERO -a UFL_Dualoc -d tiny.dat --output=nowindowed | sed -n 6p
+  17
+  $ echo "2 3 capacity 10. capacity 4 7 1.5 8 2 6 3 4 9" > short.txt
+  $ $TESTDIR/../../scripts/orlib-ufl-to-mero short.txt
+  orlib-ufl-to-mero: 15 tokens expected for 2 sites and 3 customers, found 14
+  [1]
+  $ echo "2 3 capacity 10. capacity 4 7 1.5 8 2 six 3 4 9 2" > word.txt
+  $ $TESTDIR/../../scripts/orlib-ufl-to-mero word.txt
+  orlib-ufl-to-mero: cost of customer 2 expected, found 'six'
+  [1]
