@@ -9,7 +9,8 @@
 # Builds a Release tree of its own (build-discrete-release) and, beside the program, a small
 # driver linked with the same libmero that prints the values with all their digits (the report
 # shows six significant digits only).
-# Usage: bench/discrete.sh [ORLIB_UNCAP_DIR] [INSTANCE...]   (default: ../shared/benchmarks/orlib/uncap)
+# Usage: bench/discrete.sh [ORLIB_UNCAP_DIR] [INSTANCE...]
+#        (default directory: ../shared/benchmarks/orlib/uncap beside the repository)
 # DUALOC_LIMIT (seconds, default 3600) bounds each instance; a UFL_Dualoc run cut off there shows
 # as "not done" and makes the script fail.
 set -euo pipefail

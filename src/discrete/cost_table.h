@@ -35,10 +35,6 @@ struct open_solution {
 // the empty-problem message, so that no solver ever meets one.
 cost_table make_cost_table(const discrete_problem& problem);
 
-// The value of serving every demand point from its cheapest open supply point, plus the fixed
-// costs of the open set: the independent check of every solver's value.
-double open_set_value(const cost_table& t, const std::vector<int>& open);
-
 // Writes a solution into the problem: for each demand point the open supply point with the strict
 // smallest cost (the earliest on ties) gets 1.0 in `assignment`, and `opt` receives a copy of each
 // open supply location in ascending order.

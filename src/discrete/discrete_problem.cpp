@@ -23,18 +23,6 @@ cost_table make_cost_table(const discrete_problem& problem) {
   return t;
 }
 
-double open_set_value(const cost_table& t, const std::vector<int>& open) {
-  double z = 0.0;
-  for (int j : open) z += t.f[j];
-  for (int i = 0; i < t.m; ++i) {
-    double best = infinite_cost;
-    for (int j : open)
-      if (t(i, j) < best) best = t(i, j);
-    z += best;
-  }
-  return z;
-}
-
 void publish_solution(discrete_problem& problem, const cost_table& t,
                       const std::vector<int>& open) {
   problem.assignment = matrix(t.m, t.n);
