@@ -200,3 +200,9 @@ Errors in a windowed run without a window layer still reach the console.
   $ $MERO -l f -a unknown --output=windowed
   MERO error: Illegal algorithm or missing data. ErrorCode: 1007
   [1]
+
+Without any argument the program looks for its front end beside it; without the script it says
+so and ends normally.
+
+  $ $MERO
+  Cannot find Tcl-script merofront.
