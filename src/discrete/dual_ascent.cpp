@@ -63,6 +63,9 @@ struct dual_ascent_solver {
   double dual_ascent(const node_problem& p, node_state& s) const;
   int branch_variable(const node_problem& p, const node_state& s) const;
   bool branch(const node_problem& parent, node_state& s, bool close) const;
+
+  // The smallest value of any primal solution met so far, at any node.
+  mutable double best_found = infinite_cost;
 };
 
 dual_ascent_solver::dual_ascent_solver(const cost_table& t)
@@ -263,7 +266,13 @@ bool dual_ascent_solver::branch(const node_problem& parent, node_state& s, bool 
       if (s.v[i] > C(i, k)) s.v[i] = C(i, k);
   }
   const double bound = dual_ascent(p, s) + p.forced_open_cost;
-  if (bound > ub + tolerance) return false;
+  best_found = std::min(best_found, s.z);
+  // A node is pruned when its bound exceeds its parent's value. It is pruned as well when the
+  // bound exceeds the best solution met anywhere: every leaf below it is then worse than that
+  // solution, which the comparisons on the way up keep, so the result is the same, and the
+  // search no longer wanders through subtrees that cannot win (the large OR-Library instances
+  // need this).
+  if (bound > ub + tolerance || bound > best_found + tolerance) return false;
 
   node_state closing = s;
   const bool closed_ok = branch(p, closing, true);
@@ -291,6 +300,7 @@ double discrete_problem::UFL_Dualoc() {
                std::vector<int>(t.m, 0),
                std::vector<double>(static_cast<std::size_t>(t.m) * t.n, 0.0), 0.0};
   solver.dual_ascent(root, s);
+  solver.best_found = s.z;
 
   node_state closing = s;
   const bool closed_ok = solver.branch(root, closing, true);
