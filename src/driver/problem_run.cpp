@@ -1,5 +1,6 @@
 #include "driver/problem_run.h"
 
+#include <cmath>
 #include <fstream>
 #include <iostream>
 
@@ -48,11 +49,27 @@ const family_case* find_case(int number) {
   return nullptr;
 }
 
+bool all_finite(const std::list<location>& list) {
+  for (const location& l : list)
+    for (int i = 0; i < l.coordinates().size(); ++i)
+      if (!std::isfinite(l.coordinate(i))) return false;
+  return true;
+}
+
+// Coordinates or weights near the largest double overflow inside the solvers; such a run ends
+// with a message rather than a report of inf and nan.
+void check_finite(const run_context& ctx, double value) {
+  if (std::isfinite(value) && all_finite(ctx.results) && all_finite(ctx.situations)) return;
+  report_error("The result is not finite: coordinates or weights are too large.", 1013, 1,
+               ctx.request.windowed);
+}
+
 // A number without a case runs nothing: its label stays empty and the value written is 0.
 void solve(run_context& ctx) {
   const family_case* c = find_case(ctx.request.algorithm);
   if (!c) return;
   double value = c->solve(ctx, c->number);
+  check_finite(ctx, value);
   if (ctx.objective.empty()) ctx.objective.resize(1);
   ctx.objective[0] = value;
   ctx.label = format_label(c->number, ctx.label_args);
