@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "kernel/error_handler.h"
@@ -18,21 +19,87 @@ namespace {
 // Bounds closer than this are taken as equal: they describe one point that rounding split.
 constexpr double same_bound = 1e-14;
 
-// The optimal value: the largest, over all pairs, of a coordinate distance times u v / (u + v),
-// the weighted distance at which the two locations' cones meet. Pairs whose factor is no number
-// (weights summing to zero, infinite weights) leave the value alone.
-double largest_pair_value(const std::vector<weighted_point>& points) {
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+// The meeting value of two locations in one coordinate: their distance times u v / (u + v), the
+// weighted distance at which their cones meet. The operands commute exactly, so the order of the
+// pair does not change the double.
+double meeting_value(double a, double u, double b, double v) {
+  return std::fabs(a - b) * (u * v / (u + v));
+}
+
+// The largest meeting value over all pairs, by scanning every pair. Pairs whose factor is no
+// number (weights summing to zero, infinite weights) leave the value alone.
+double largest_pair_value_by_scan(const std::vector<double>& a, const std::vector<double>& w) {
   double z = 0.0;
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    const weighted_point& a = points[i];
-    for (std::size_t j = i + 1; j < points.size(); ++j) {
-      const weighted_point& b = points[j];
-      const double t = a.w * b.w / (a.w + b.w);
-      z = std::max(z, std::fabs(a.x - b.x) * t);
-      z = std::max(z, std::fabs(a.y - b.y) * t);
-    }
-  }
+  for (std::size_t i = 0; i < a.size(); ++i)
+    for (std::size_t j = i + 1; j < a.size(); ++j)
+      z = std::max(z, meeting_value(a[i], w[i], a[j], w[j]));
   return z;
+}
+
+// Positive weights and coordinates of moderate size: there the rounding bounds of
+// largest_pair_value hold.
+bool is_well_scaled(const std::vector<double>& a, const std::vector<double>& w) {
+  for (std::size_t k = 0; k < a.size(); ++k)
+    if (!(w[k] >= 1e-100 && w[k] <= 1e100 && std::fabs(a[k]) <= 1e100)) return false;
+  return true;
+}
+
+// The point x where the largest weighted distance to the left, max w (x - a), meets the largest to
+// the right, max w (a - x): the one-dimensional weighted center, found by bisection.
+double one_dimensional_center(const std::vector<double>& a, const std::vector<double>& w) {
+  double lo = *std::min_element(a.begin(), a.end());
+  double hi = *std::max_element(a.begin(), a.end());
+  for (int step = 0; step < 200; ++step) {
+    const double mid = lo + (hi - lo) * 0.5;
+    if (mid == lo || mid == hi) break;
+    double left = -infinity, right = -infinity;
+    for (std::size_t k = 0; k < a.size(); ++k) {
+      left = std::max(left, w[k] * (mid - a[k]));
+      right = std::max(right, w[k] * (a[k] - mid));
+    }
+    (left < right ? lo : hi) = mid;
+  }
+  return lo;
+}
+
+// The largest meeting value over all pairs, the same double as the scan gives, in about
+// O(n log(range)). For any x, a pair's meeting value is at most the larger of the two weighted
+// distances g = w |x - a| (its distance is at most the sum of the two distances to x). So with
+// z0 the meeting value of one pair, only pairs with a member whose g reaches z0 can reach z0, and
+// only those are scanned; a margin far above the rounding error of g and of the meeting values
+// keeps every such member. At the center x few members reach z0; when many do (symmetric data),
+// or the data are badly scaled, all pairs are scanned.
+double largest_pair_value(const std::vector<double>& a, const std::vector<double>& w) {
+  if (a.size() < 64 || !is_well_scaled(a, w)) return largest_pair_value_by_scan(a, w);
+  const double x = one_dimensional_center(a, w);
+  std::size_t left = 0, right = 0;
+  for (std::size_t k = 0; k < a.size(); ++k) {
+    if (w[k] * (x - a[k]) > w[left] * (x - a[left])) left = k;
+    if (w[k] * (a[k] - x) > w[right] * (a[right] - x)) right = k;
+  }
+  const double z0 = meeting_value(a[left], w[left], a[right], w[right]);
+  std::vector<std::size_t> members;
+  for (std::size_t k = 0; k < a.size(); ++k)
+    if (w[k] * std::fabs(x - a[k]) >= z0 * (1.0 - 1e-9)) members.push_back(k);
+  if (members.size() * members.size() > a.size()) return largest_pair_value_by_scan(a, w);
+  double z = 0.0;
+  for (std::size_t m : members)
+    for (std::size_t k = 0; k < a.size(); ++k)
+      if (k != m) z = std::max(z, meeting_value(a[m], w[m], a[k], w[k]));
+  return z;
+}
+
+// The optimal value: the largest meeting value over all pairs, in either coordinate.
+double largest_pair_value(const std::vector<weighted_point>& points) {
+  std::vector<double> x(points.size()), y(points.size()), w(points.size());
+  for (std::size_t k = 0; k < points.size(); ++k) {
+    x[k] = points[k].x;
+    y[k] = points[k].y;
+    w[k] = points[k].w;
+  }
+  return std::max(largest_pair_value(x, w), largest_pair_value(y, w));
 }
 
 // The box of points within weighted distance z of every location: its lower corner is the
@@ -56,10 +123,10 @@ void optimal_box(const std::vector<weighted_point>& points, double z, weighted_p
 }  // namespace
 
 // Weighted maximum-norm center: the optimal value is the largest pairwise meeting distance
-// (O(n^2) pairs), the optima the box that every location reaches within it, which in the maximum
-// norm is a point or a segment. optima receives one point or the segment's two ends, weight
-// entry 0 = 1.0. All locations at one place: the first with non-zero weight; no non-zero weight
-// at all ends the run with the whole-plane message.
+// (O(n log n) in practice, O(n^2) on symmetric or badly scaled data), the optima the box that every
+// location reaches within it, which in the maximum norm is a point or a segment. optima receives
+// one point or the segment's two ends, weight entry 0 = 1.0. All locations at one place: the first
+// with non-zero weight; no non-zero weight at all ends the run with the whole-plane message.
 double facilities::linf_max(bool clear) {
   if (clear) optima_.clear();
   if (empty()) empty_list_error(model_messages::empty_list);
