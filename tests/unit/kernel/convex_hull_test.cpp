@@ -8,18 +8,15 @@
 namespace mero {
 namespace {
 
-TEST(convex_hull, small_and_degenerate_sets) {
+TEST(convex_hull, degenerate_sets_and_repeated_points) {
+  using points = std::vector<point>;
   EXPECT_TRUE(convex_hull({}).empty());
-  EXPECT_EQ(convex_hull({point(1, 1), point(1, 1)}), std::vector<point>{point(1, 1)});
+  EXPECT_EQ(convex_hull({point(1, 1), point(1, 1)}), points{point(1, 1)});
   EXPECT_EQ(convex_hull({point(3, 3), point(1, 1), point(2, 2), point(0, 0)}),
-            (std::vector<point>{point(0, 0), point(3, 3)}));
-}
-
-TEST(convex_hull, square_with_inner_edge_and_repeated_points) {
-  const std::vector<point> input{point(2, 2), point(1, 1), point(0, 2), point(1, 0),
-                                 point(0, 0), point(2, 0), point(2, 2), point(0, 1)};
-  EXPECT_EQ(convex_hull(input),
-            (std::vector<point>{point(0, 0), point(2, 0), point(2, 2), point(0, 2)}));
+            (points{point(0, 0), point(3, 3)}));
+  EXPECT_EQ(convex_hull({point(2, 2), point(1, 1), point(0, 2), point(1, 0), point(0, 0),
+                         point(2, 0), point(2, 2), point(0, 1)}),
+            (points{point(0, 0), point(2, 0), point(2, 2), point(0, 2)}));
 }
 
 // Every hull edge has all points on its left or on it, every corner is an input point, and the
@@ -33,10 +30,8 @@ TEST(convex_hull, random_sets_are_enclosed_counter_clockwise) {
     const std::vector<point> hull = convex_hull(input);
     ASSERT_GE(hull.size(), 3u);
     for (std::size_t i = 0; i < hull.size(); ++i) {
-      const point& a = hull[i];
-      const point& b = hull[(i + 1) % hull.size()];
-      const point& c = hull[(i + 2) % hull.size()];
-      EXPECT_EQ(orientation(a, b, c), 1);
+      const point &a = hull[i], &b = hull[(i + 1) % hull.size()];
+      EXPECT_EQ(orientation(a, b, hull[(i + 2) % hull.size()]), 1);
       EXPECT_NE(std::find(input.begin(), input.end(), a), input.end());
       for (const point& p : input) EXPECT_GE(orientation(a, b, p), 0);
     }

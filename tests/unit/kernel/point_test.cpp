@@ -1,33 +1,22 @@
 #include "kernel/point.h"
 
-#include <cmath>
 #include <numbers>
 
 #include "kernel/geometry_texts.h"
 #include "test_support.h"
 
 namespace mero {
-namespace {
 
-TEST(point, equality_is_exact) {
-  EXPECT_EQ(point(), point(0.0, 0.0));
+TEST(point, exact_equality_distances_and_moves) {
   EXPECT_NE(point(0.1 + 0.2, 0.0), point(0.3, 0.0));
-  EXPECT_EQ(point(0.5 + 0.25, 1.0), point(0.75, 1.0));
-}
-
-TEST(point, distances_and_moves) {
   point p(1.0, 2.0);
   EXPECT_EQ(p.sqr_dist(point(4.0, 6.0)), 25.0);
   EXPECT_EQ(p.distance(point(4.0, 6.0)), 5.0);
   EXPECT_EQ(p.translate(2.0, -3.0), point(3.0, -1.0));
-  EXPECT_EQ(p.translate(vector(-1.0, -2.0)), point());
   EXPECT_EQ(p.rotate90(point(1.0, 1.0)), point(0.0, 1.0));  // a quarter turn left about (1,1)
   point q = point(2.0, 1.0).rotate(point(1.0, 1.0), std::numbers::pi);
   EXPECT_NEAR(q.xcoord(), 0.0, 1e-15);
   EXPECT_NEAR(q.ycoord(), 1.0, 1e-15);
-  point r = point(1.0, 0.0).rotate(std::numbers::pi / 2);
-  EXPECT_NEAR(r.xcoord(), 0.0, 1e-15);
-  EXPECT_NEAR(r.ycoord(), 1.0, 1e-15);
 }
 
 TEST(point, angle_is_counter_clockwise_from_first_arm) {
@@ -41,17 +30,12 @@ TEST(point, angle_is_counter_clockwise_from_first_arm) {
 }
 
 TEST(orientation, sign_of_the_turn) {
-  point a(0.0, 0.0), b(4.0, 0.0);
-  EXPECT_EQ(orientation(a, b, point(1.0, 3.0)), 1);    // left turn
-  EXPECT_EQ(orientation(a, b, point(1.0, -3.0)), -1);  // right turn
+  point a(0.0, 0.0), b(4.0, 0.0), c(2.5, 7.0);
+  EXPECT_EQ(orientation(a, b, c), 1);
+  EXPECT_EQ(orientation(b, a, c), -1);
+  EXPECT_EQ(orientation(b, c, a), 1);
   EXPECT_EQ(orientation(a, b, point(9.0, 0.0)), 0);
-  EXPECT_EQ(orientation(point(1.0, 1.0), point(3.0, 3.0), point(-7.0, -7.0)), 0);
-  EXPECT_EQ(orientation(a, a, point(1.0, 1.0)), 0);
-  // Swapping two points reverses the turn.
-  point c(2.5, 7.0);
-  EXPECT_EQ(orientation(b, a, c), -orientation(a, b, c));
-  EXPECT_EQ(orientation(b, c, a), orientation(a, b, c));
+  EXPECT_EQ(orientation(a, a, c), 0);
 }
 
-}  // namespace
 }  // namespace mero

@@ -13,123 +13,84 @@ namespace {
 
 std::vector<point> square() { return {point(0, 0), point(2, 0), point(2, 2), point(0, 2)}; }
 
-TEST(polygon, segments_close_the_ring) {
-  polygon p(square());
-  EXPECT_EQ(p.size(), 4);
+TEST(polygon, ring_orientation_area_and_moves) {
+  polygon p(std::list<point>{point(0, 0), point(2, 0), point(2, 2), point(0, 2)});
+  EXPECT_EQ(p.vertices(), square());
   ASSERT_EQ(p.segments().size(), 4u);
-  EXPECT_EQ(p.segments()[1], segment(point(2, 0), point(2, 2)));
-  EXPECT_EQ(p.segments()[3], segment(point(0, 2), point(0, 0)));
-  EXPECT_EQ(p.area(), 4.0);
-  std::vector<point> corners = square();
-  std::list<point> as_list(corners.begin(), corners.end());
-  EXPECT_EQ(polygon(as_list).vertices(), square());
-}
-
-TEST(polygon, clockwise_input_is_turned_round_unless_kept) {
+  EXPECT_EQ(p.segments()[3], segment(point(0, 2), point(0, 0)));  // the closing edge
   std::vector<point> clockwise = {point(0, 0), point(0, 2), point(2, 2), point(2, 0)};
-  polygon turned(clockwise);
-  EXPECT_EQ(turned.vertices(),
+  EXPECT_EQ(polygon(clockwise).vertices(),
             (std::vector<point>{point(2, 0), point(2, 2), point(0, 2), point(0, 0)}));
-  EXPECT_EQ(turned.area(), 4.0);
-  EXPECT_EQ(turned.segments()[0], segment(point(2, 0), point(2, 2)));
-  polygon kept(clockwise, polygon::NO_CHECK, true);
-  EXPECT_EQ(kept.vertices(), clockwise);
-  EXPECT_EQ(kept.area(), -4.0);
-  // An L shape: area 3 by counting unit squares.
-  polygon l({point(0, 0), point(2, 0), point(2, 1), point(1, 1), point(1, 2), point(0, 2)});
-  EXPECT_EQ(l.area(), 3.0);
+  EXPECT_EQ(polygon(clockwise).area(), 4.0);
+  EXPECT_EQ(polygon(clockwise, polygon::NO_CHECK, true).vertices(), clockwise);
+  EXPECT_EQ(polygon(clockwise, polygon::NO_CHECK, true).area(), -4.0);
+  // An L shape: three unit squares.
+  EXPECT_EQ(polygon({point(0, 0), point(2, 0), point(2, 1), point(1, 1), point(1, 2), point(0, 2)})
+                .area(),
+            3.0);
+  EXPECT_EQ(p.translate(1.0, -1.0).vertices()[2], point(3, 1));
+  polygon turned = p.rotate(point(1, 1), std::numbers::pi / 2);
+  EXPECT_NEAR(turned.vertices()[0].xcoord(), 2.0, 1e-15);
+  EXPECT_NEAR(turned.vertices()[0].ycoord(), 0.0, 1e-15);
 }
 
-TEST(polygon, simplicity_of_hand_made_chains) {
+TEST(polygon, checked_construction) {
   std::vector<point> bowtie = {point(0, 0), point(2, 2), point(2, 0), point(0, 2)};
-  EXPECT_FALSE(polygon(bowtie).is_simple());
-  EXPECT_FALSE(polygon(bowtie).is_weakly_simple());
-  EXPECT_KERNEL_ERROR(polygon(bowtie, polygon::SIMPLE), "POLYGON: POLYGON is not simple");
-  EXPECT_KERNEL_ERROR(polygon(bowtie, polygon::WEAKLY_SIMPLE),
-                      "POLYGON: POLYGON is not weakly simple");
-  // Two triangles touching at (1,1) without crossing there.
+  EXPECT_KERNEL_ERROR(polygon(bowtie, polygon::WEAKLY_SIMPLE), texts::polygon_not_weakly_simple);
+  // Two triangles touching at (1,1) without crossing there: weakly simple only.
   std::vector<point> touching = {point(0, 0), point(1, 1), point(2, 0),
                                  point(2, 2), point(1, 1), point(0, 2)};
-  EXPECT_FALSE(polygon(touching).is_simple());
-  EXPECT_TRUE(polygon(touching).is_weakly_simple());
   EXPECT_EQ(polygon(touching, polygon::WEAKLY_SIMPLE).size(), 6);
-  EXPECT_KERNEL_ERROR(polygon(touching, polygon::SIMPLE), texts::polygon_not_simple);
-  EXPECT_TRUE(polygon(square(), polygon::SIMPLE).is_simple());
-  EXPECT_FALSE(polygon({point(0, 0), point(1, 0), point(2, 0)}).is_simple());  // flat
-  EXPECT_FALSE(polygon({point(0, 0), point(1, 0), point(1, 0), point(1, 1)}).is_simple());
-  EXPECT_FALSE(polygon({point(0, 0), point(2, 0), point(1, 0), point(1, 1)}).is_simple());
-  EXPECT_FALSE(polygon({point(0, 0), point(1, 1)}).is_simple());
-  EXPECT_FALSE(polygon({point(0, 0), point(1, 1)}).is_weakly_simple());
-  // A vertex on a non-adjacent edge.
-  EXPECT_FALSE(
-      polygon({point(0, 0), point(4, 0), point(4, 4), point(2, 0), point(0, 4)}).is_simple());
+  EXPECT_KERNEL_ERROR(polygon(touching, polygon::SIMPLE), "POLYGON: POLYGON is not simple");
+  EXPECT_EQ(polygon(square(), polygon::SIMPLE).size(), 4);
 }
 
-// The definition of simplicity, pair by pair, on exact integers.
+// Simple: non-adjacent sides never meet, adjacent sides meet only at their shared corner.
 bool simple_by_definition(const std::vector<testing::int_segment>& s) {
   std::size_t n = s.size();
-  for (std::size_t i = 0; i < n; ++i) {
+  for (std::size_t i = 0; i < n; ++i)
     for (std::size_t j = i + 1; j < n; ++j) {
-      bool adjacent = j == i + 1 || (i == 0 && j == n - 1);
-      if (!adjacent) {
-        if (testing::meet(s[i], s[j])) return false;
-        continue;
-      }
-      const auto& first = j == i + 1 ? s[i] : s[j];  // first ends where second starts
-      const auto& second = j == i + 1 ? s[j] : s[i];
-      bool trivial = (first[0] == first[2] && first[1] == first[3]) ||
-                     (second[0] == second[2] && second[1] == second[3]);
-      // Collinear arms pointing the same way from the shared vertex overlap.
-      std::int64_t ax = first[0] - first[2], ay = first[1] - first[3];
-      std::int64_t bx = second[2] - second[0], by = second[3] - second[1];
-      if (trivial || (ax * by - ay * bx == 0 && ax * bx + ay * by > 0)) return false;
-    }
-  }
-  return true;
-}
-
-bool crossing_free(const std::vector<testing::int_segment>& s) {
-  for (std::size_t i = 0; i < s.size(); ++i)
-    for (std::size_t j = i + 1; j < s.size(); ++j) {
-      const auto &a = s[i], &b = s[j];
-      if (testing::sign_of_turn(a[0], a[1], a[2], a[3], b[0], b[1]) *
-                  testing::sign_of_turn(a[0], a[1], a[2], a[3], b[2], b[3]) <
-              0 &&
-          testing::sign_of_turn(b[0], b[1], b[2], b[3], a[0], a[1]) *
-                  testing::sign_of_turn(b[0], b[1], b[2], b[3], a[2], a[3]) <
-              0)
+      bool wrap = i == 0 && j == n - 1;
+      const auto& a = wrap ? s[j] : s[i];  // a ends where b starts
+      const auto& b = wrap ? s[i] : s[j];
+      if (j == i + 1 || wrap
+              ? testing::on_segment(a, b[2], b[3]) || testing::on_segment(b, a[0], a[1])
+              : testing::meet(a, b))
         return false;
     }
   return true;
 }
 
-struct random_chain {
-  std::vector<point> vertices;
-  std::vector<testing::int_segment> segments;
-};
+bool crossing_free(const std::vector<testing::int_segment>& s) {
+  for (std::size_t i = 0; i < s.size(); ++i)
+    for (std::size_t j = i + 1; j < s.size(); ++j)
+      if (testing::cross_properly(s[i], s[j])) return false;
+  return true;
+}
 
-random_chain make_chain(std::mt19937& random, int n, int span) {
+// n random corners on a small grid, with the sides as integer segments.
+std::vector<testing::int_segment> make_chain(std::mt19937& random, int n, int span,
+                                             std::vector<point>& v) {
   std::uniform_int_distribution<int> coord(0, span);
-  random_chain c;
-  std::vector<std::pair<int, int>> xy;
-  for (int i = 0; i < n; ++i) xy.emplace_back(coord(random), coord(random));
+  std::vector<testing::int_segment> sides;
+  v.clear();
+  for (int i = 0; i < n; ++i) v.emplace_back(coord(random), coord(random));
   for (int i = 0; i < n; ++i) {
-    auto [x1, y1] = xy[i];
-    auto [x2, y2] = xy[(i + 1) % n];
-    c.vertices.emplace_back(x1, y1);
-    c.segments.push_back({x1, y1, x2, y2});
+    const point &a = v[i], &b = v[(i + 1) % n];
+    sides.push_back({std::lround(a.xcoord()), std::lround(a.ycoord()), std::lround(b.xcoord()),
+                     std::lround(b.ycoord())});
   }
-  return c;
+  return sides;
 }
 
 TEST(polygon, simplicity_agrees_with_the_definition_on_random_chains) {
   std::mt19937 random(11);
   int simple = 0, weak = 0, neither = 0;
+  std::vector<point> v;
   for (int trial = 0; trial < 20000; ++trial) {
-    random_chain c = make_chain(random, 3 + trial % 5, 4);
-    polygon p(c.vertices, polygon::NO_CHECK, true);
-    bool expected_simple = simple_by_definition(c.segments);
-    bool expected_weak = crossing_free(c.segments);
+    auto sides = make_chain(random, 3 + trial % 5, 4, v);
+    polygon p(v, polygon::NO_CHECK, true);
+    bool expected_simple = simple_by_definition(sides), expected_weak = crossing_free(sides);
     ASSERT_EQ(p.is_simple(), expected_simple) << p;
     ASSERT_EQ(p.is_weakly_simple(), expected_weak) << p;
     simple += expected_simple;
@@ -139,27 +100,6 @@ TEST(polygon, simplicity_agrees_with_the_definition_on_random_chains) {
   EXPECT_GT(simple, 1000);
   EXPECT_GT(weak, 1000);
   EXPECT_GT(neither, 1000);
-}
-
-TEST(polygon, side_of_hand_placed_points) {
-  polygon sq(square());
-  EXPECT_EQ(sq.side_of(point(1, 1)), 1);
-  EXPECT_EQ(sq.side_of(point(2, 1)), 0);
-  EXPECT_EQ(sq.side_of(point(0, 0)), 0);
-  EXPECT_EQ(sq.side_of(point(3, 1)), -1);
-  EXPECT_TRUE(sq.contains(point(1, 2)));
-  EXPECT_FALSE(sq.contains(point(1, 1)));
-  // Rays through vertices of a diamond.
-  polygon diamond({point(1, 0), point(2, 1), point(1, 2), point(0, 1)});
-  EXPECT_TRUE(diamond.inside(point(0.5, 1)));
-  EXPECT_TRUE(diamond.outside(point(-1, 1)));
-  EXPECT_TRUE(diamond.outside(point(-1, 0)));
-  EXPECT_TRUE(diamond.outside(point(-1, 2)));
-  // The notch of an L is outside.
-  polygon l({point(0, 0), point(2, 0), point(2, 1), point(1, 1), point(1, 2), point(0, 2)});
-  EXPECT_TRUE(l.outside(point(1.5, 1.5)));
-  EXPECT_TRUE(l.inside(point(0.5, 1.5)));
-  EXPECT_TRUE(l.inside(point(1.5, 0.5)));
 }
 
 // Winding number by summing the turning angles seen from p: 2 pi inside a simple polygon, 0
@@ -177,21 +117,23 @@ TEST(polygon, side_of_agrees_with_winding_on_random_simple_polygons) {
   std::mt19937 random(5);
   std::uniform_int_distribution<int> quarter(-4, 24);
   int inside = 0, boundary = 0, outside = 0;
+  std::vector<point> v;
   for (int trial = 0; trial < 3000; ++trial) {
-    random_chain c = make_chain(random, 3 + trial % 6, 5);
-    if (!simple_by_definition(c.segments)) continue;
-    polygon p(c.vertices);
+    auto sides = make_chain(random, 3 + trial % 6, 5, v);
+    if (!simple_by_definition(sides)) continue;
+    polygon p(v);
     for (int k = 0; k < 20; ++k) {
       // Query points on a grid of quarters; scaled by 4 the boundary test is exact on integers.
       int qx = quarter(random), qy = quarter(random);
       point q(qx / 4.0, qy / 4.0);
       bool on = false;
-      for (auto s : c.segments) {
+      for (auto s : sides) {
         for (auto& x : s) x *= 4;
         on = on || testing::on_segment(s, qx, qy);
       }
-      int expected = on ? 0 : (inside_by_winding(c.vertices, q) ? 1 : -1);
+      int expected = on ? 0 : (inside_by_winding(v, q) ? 1 : -1);
       ASSERT_EQ(p.side_of(q), expected) << p << " " << q;
+      ASSERT_EQ(p.contains(q), on) << p << " " << q;
       (expected > 0 ? inside : expected == 0 ? boundary : outside)++;
     }
   }
@@ -202,31 +144,17 @@ TEST(polygon, side_of_agrees_with_winding_on_random_simple_polygons) {
 
 TEST(polygon, crossings_with_segments_and_lines) {
   polygon sq(square());
+  using points = std::vector<point>;
   EXPECT_EQ(sq.intersection(segment(point(-1, 1), point(3, 1))),
-            (std::vector<point>{point(2, 1), point(0, 1)}));
+            (points{point(2, 1), point(0, 1)}));
   // Through two corners: each corner once.
   EXPECT_EQ(sq.intersection(segment(point(-1, -1), point(3, 3))),
-            (std::vector<point>{point(0, 0), point(2, 2)}));
+            (points{point(0, 0), point(2, 2)}));
   // Overlapping the bottom edge: the overlap's ends.
-  EXPECT_EQ(sq.intersection(segment(point(1, 0), point(3, 0))),
-            (std::vector<point>{point(2, 0), point(1, 0)}));
+  EXPECT_EQ(sq.intersection(segment(point(1, 0), point(3, 0))), (points{point(2, 0), point(1, 0)}));
   EXPECT_TRUE(sq.intersection(segment(point(0.5, 0.5), point(1.5, 1.5))).empty());
-  EXPECT_EQ(sq.intersection(line(point(-5, 0), point(5, 0))),
-            (std::vector<point>{point(0, 0), point(2, 0)}));
-  EXPECT_EQ(sq.intersection(line(point(1, -5), point(1, 5))),
-            (std::vector<point>{point(1, 0), point(1, 2)}));
-}
-
-TEST(polygon, moves_keep_shape_and_order) {
-  polygon sq(square());
-  polygon moved = sq.translate(1.0, -1.0);
-  EXPECT_EQ(moved.vertices()[2], point(3, 1));
-  EXPECT_EQ(moved.area(), 4.0);
-  EXPECT_EQ(sq.translate(vector(1.0, -1.0)).vertices(), moved.vertices());
-  polygon turned = sq.rotate(point(1, 1), std::numbers::pi / 2);
-  EXPECT_NEAR(turned.vertices()[0].xcoord(), 2.0, 1e-15);
-  EXPECT_NEAR(turned.vertices()[0].ycoord(), 0.0, 1e-15);
-  EXPECT_NEAR(turned.area(), 4.0, 1e-14);
+  EXPECT_EQ(sq.intersection(line(point(-5, 0), point(5, 0))), (points{point(0, 0), point(2, 0)}));
+  EXPECT_EQ(sq.intersection(line(point(1, -5), point(1, 5))), (points{point(1, 0), point(1, 2)}));
 }
 
 }  // namespace

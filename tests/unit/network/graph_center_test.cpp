@@ -4,7 +4,6 @@
 #include <cmath>
 #include <random>
 
-#include "network/tent_envelope.h"
 #include "network_test_graphs.h"
 #include "test_support.h"
 
@@ -14,56 +13,20 @@ namespace {
 using testing::arc;
 using testing::make_location_graph;
 
-TEST(graph_center, small_cases_by_hand) {
+TEST(abs_center, edge_cases_by_hand) {
   double value = 0;
   location_graph one = make_location_graph({4}, {});
-  EXPECT_EQ(node_center(one, value), (graphpointset{{0, 0, 0}}));
-  EXPECT_EQ(value, 0.0);
   EXPECT_TRUE(abs_center(one, value).empty());
   EXPECT_EQ(value, 1e50);
-
   location_graph two = undirected_form(make_location_graph({1, 1}, {{0, 1, 2}}));
-  EXPECT_EQ(node_center(two, value), (graphpointset{{0, 0, 0}, {1, 1, 0}}));
-  EXPECT_EQ(value, 2.0);
   EXPECT_EQ(abs_center(two, value), (graphpointset{{0, 1, 0.5}}));
   EXPECT_EQ(value, 1.0);
-
-  // star around node 0 with unit lengths: the center is node 0, found from each of its edges
-  // in a row and so listed once
+  // a star around node 0 with unit lengths: node 0, found from each of its edges in a row, is
+  // listed once
   location_graph star =
-      undirected_form(make_location_graph({1, 1, 1, 1}, {{0, 1, 1}, {0, 2, 1}, {3, 0, 1}}));
+      undirected_form(make_location_graph({1, 1, 1, 1}, {{0, 1}, {0, 2}, {3, 0}}));
   EXPECT_EQ(abs_center(star, value), (graphpointset{{0, 0, 0}}));
   EXPECT_EQ(value, 1.0);
-
-  // all weights zero: every point scores 0; node_center lists every node
-  location_graph zero = undirected_form(make_location_graph({0, 0, 0}, {{0, 1, 1}, {1, 2, 1}}));
-  EXPECT_EQ(node_center(zero, value), (graphpointset{{0, 0, 0}, {1, 1, 0}, {2, 2, 0}}));
-  abs_center(zero, value);
-  EXPECT_EQ(value, 0.0);
-}
-
-TEST(graph_center, directed_node_center_looks_outward) {
-  // 0 -> 1 (1), 1 -> 2 (1), 2 -> 0 (5): farthest from 0 is 2 at 2, from 1 is 0 at 6, from 2 is
-  // 1 at 6.
-  location_graph g = make_location_graph({1, 1, 1}, {{0, 1, 1}, {1, 2, 1}, {2, 0, 5}});
-  double value = 0;
-  EXPECT_EQ(node_center(g, value), (graphpointset{{0, 0, 0}}));
-  EXPECT_EQ(value, 2.0);
-}
-
-TEST(node_tent, crossing_inside_or_one_line) {
-  // du 0, dv 1, L 3, w 2: rising (0,0)-(1,6), falling (0,8)-(1,2) cross at t = 2/3, y = 4
-  tent t = node_tent(0, 1, 2, 3);
-  EXPECT_EQ(t.first.source(), point(0, 0));
-  EXPECT_NEAR(t.first.xcoord2(), 2.0 / 3.0, 1e-15);
-  EXPECT_NEAR(t.first.ycoord2(), 4.0, 1e-12);
-  EXPECT_EQ(t.second.target(), point(1, 2));
-  // du 0, dv 2, L 2: the lines meet at t = 1, so the rising line alone is the function
-  tent edge_end = node_tent(0, 2, 1, 2);
-  EXPECT_EQ(edge_end.first, segment(point(0, 0), point(1, 2)));
-  EXPECT_EQ(edge_end.second, segment());
-  tent other_end = node_tent(2, 0, 1, 2);
-  EXPECT_EQ(other_end.first, segment(point(0, 2), point(1, 0)));
 }
 
 // The weighted distance of node i from the point at fraction t of the edge u-v.
@@ -75,22 +38,37 @@ double served(const std::vector<std::vector<double>>& d, const std::vector<doubl
   return worst;
 }
 
+// node_center against enumeration, outward distances on the directed graph with 0 for a node
+// that cannot be reached.
+void expect_node_center(const std::vector<double>& w, const std::vector<arc>& arcs, int round) {
+  int n = static_cast<int>(w.size());
+  auto d = testing::reference_distances(n, arcs, false, 1e300);
+  std::vector<double> farthest(n, 0.0);
+  for (int x = 0; x < n; ++x)
+    for (int j = 0; j < n; ++j)
+      farthest[x] = std::max(farthest[x], d[x][j] < 1e300 ? w[j] * d[x][j] : 0);
+  double best = *std::min_element(farthest.begin(), farthest.end());
+  graphpointset expected;
+  for (int x = 0; x < n; ++x)
+    if (farthest[x] == best) expected.push_back({x, x, 0});
+  location_graph g = make_location_graph(w, arcs);
+  double value = 0;
+  EXPECT_EQ(node_center(g, value), expected) << "round " << round;
+  EXPECT_EQ(value, best) << "round " << round;
+}
+
 // Compares abs_center with two references: a scan of every edge at 4000 steps, and the exact
 // optimum over the classic candidates (edge ends and the crossings of a rising and a falling
 // line of two nodes).
-TEST(abs_center, agrees_with_a_fine_scan_of_every_edge) {
+TEST(graph_center, agrees_with_enumeration_and_a_fine_scan_of_every_edge) {
   std::mt19937 rng(11);
   for (int round = 0; round < 120; ++round) {
     int n = 2 + round % 8;
     std::vector<double> w;
-    std::vector<arc> arcs;
     // every third round with unit weights, where many tents share their lines
     for (int i = 0; i < n; ++i) w.push_back(round % 3 == 0 ? 1.0 : 1.0 + rng() % 5);
-    for (int i = 1; i < n; ++i) arcs.push_back({static_cast<int>(rng() % i), i, 1.0 + rng() % 9});
-    for (int k = 0; k < n / 2; ++k) {
-      int a = static_cast<int>(rng() % n), b = static_cast<int>(rng() % n);
-      if (a != b) arcs.push_back({a, b, 1.0 + rng() % 9});
-    }
+    std::vector<arc> arcs = testing::random_arcs(rng, n, n / 2);
+    expect_node_center(w, arcs, round);
     auto d = testing::reference_distances(n, arcs, true, 1e300);
     double scan = 1e300, exact = 1e300;
     for (const arc& a : arcs) {
@@ -115,13 +93,12 @@ TEST(abs_center, agrees_with_a_fine_scan_of_every_edge) {
     ASSERT_FALSE(found.empty());
     // each point found scores the value on one of the edges it names (edges may be parallel)
     for (const graph_point& p : found) {
-      double best_at = p.first == p.second ? served(d, w, p.first, p.first, 0, 0) : 1e300;
+      double miss =
+          p.first == p.second ? std::abs(served(d, w, p.first, p.first, 0, 0) - value) : 1e300;
       for (const arc& a : arcs)
         if (p.first != p.second && a.from == p.first && a.to == p.second)
-          best_at =
-              std::min(best_at, std::abs(served(d, w, a.from, a.to, a.length, p.position) - value));
-      if (p.first == p.second) best_at = std::abs(best_at - value);
-      EXPECT_LT(best_at, 1e-9) << "round " << round;
+          miss = std::min(miss, std::abs(served(d, w, a.from, a.to, a.length, p.position) - value));
+      EXPECT_LT(miss, 1e-9) << "round " << round;
     }
   }
 }

@@ -1,18 +1,14 @@
 #pragma once
-// Small location graphs built in code for the network tests, and an independent distance table.
+// Small location graphs built in code for the network tests; the arcs and the reference
+// distances are the kernel tests' own.
 
-#include <algorithm>
-#include <tuple>
+#include <random>
 #include <vector>
 
+#include "kernel/test_graphs.h"
 #include "network/location_graph.h"
 
 namespace mero::testing {
-
-struct arc {
-  int from, to;
-  double length;
-};
 
 inline location_graph make_location_graph(const std::vector<double>& weights,
                                           const std::vector<arc>& arcs) {
@@ -25,22 +21,14 @@ inline location_graph make_location_graph(const std::vector<double>& weights,
   return g;
 }
 
-// Floyd-Warshall over the arcs, both ways when undirected; `none` where no path exists.
-inline std::vector<std::vector<double>> reference_distances(int n, const std::vector<arc>& arcs,
-                                                            bool undirected, double none) {
-  auto size = static_cast<std::size_t>(n);
-  std::vector<std::vector<double>> d(size, std::vector<double>(size, none));
-  for (std::size_t i = 0; i < size; ++i) d[i][i] = 0.0;
-  for (const arc& a : arcs) {
-    auto s = static_cast<std::size_t>(a.from), t = static_cast<std::size_t>(a.to);
-    d[s][t] = std::min(d[s][t], a.length);
-    if (undirected) d[t][s] = std::min(d[t][s], a.length);
-  }
-  for (std::size_t k = 0; k < size; ++k)
-    for (std::size_t i = 0; i < size; ++i)
-      for (std::size_t j = 0; j < size; ++j)
-        if (d[i][k] != none && d[k][j] != none) d[i][j] = std::min(d[i][j], d[i][k] + d[k][j]);
-  return d;
+// Lengths 1..9 on a random spanning tree plus `extra` random arcs, loops and parallel arcs
+// included: weakly connected always.
+inline std::vector<arc> random_arcs(std::mt19937& rng, int n, int extra) {
+  std::vector<arc> arcs;
+  for (int i = 1; i < n; ++i) arcs.push_back({static_cast<int>(rng() % i), i, 1.0 + rng() % 9});
+  for (int k = 0; k < extra; ++k)
+    arcs.push_back({static_cast<int>(rng() % n), static_cast<int>(rng() % n), 1.0 + rng() % 9});
+  return arcs;
 }
 
 }  // namespace mero::testing
