@@ -115,55 +115,44 @@ The usage text comes in four pages; at the end of the input the pauses simply go
   $ $MERO -l f -h < /dev/null > /dev/null; echo $?
   0
 
-A value may follow its option after "=", ":", directly or as the next argument; an option's
-value must not look like an option.
+From here on each case shows the program's output followed by its exit status in brackets. A
+value may follow its option after "=", ":", directly or as the next argument; an option's value
+must not look like an option.
 
-  $ $MERO -l -a x
-  MERO error: Missing value for option -l ErrorCode: 1002
-  [1]
-  $ $MERO -a l1_sum -a l2_sum
-  MERO error: Unrecognized option -al2_sum ErrorCode: 1005
-  [1]
-  $ $MERO -a=l1_sum -lfile -l:other
-  MERO error: Unrecognized option -lother ErrorCode: 1005
-  [1]
-  $ $MERO plain
-  MERO error: Unrecognized option plain ErrorCode: 1005
-  [1]
+  $ r() { local out; out=$("$MERO" "$@" 2>&1); echo "$out [$?]"; }
+  $ r -l -a x
+  MERO error: Missing value for option -l ErrorCode: 1002 [1]
+  $ r -a l1_sum -a l2_sum
+  MERO error: Unrecognized option -al2_sum ErrorCode: 1005 [1]
+  $ r -a=l1_sum -lfile -l:other
+  MERO error: Unrecognized option -lother ErrorCode: 1005 [1]
+  $ r plain
+  MERO error: Unrecognized option plain ErrorCode: 1005 [1]
 
 Long options other than --output are ignored; without -a and a main file nothing runs.
 
-  $ $MERO --
-  MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006
-  [1]
-  $ $MERO --foo -a l1_sum
-  MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006
-  [1]
-  $ $MERO -l f --output
-  MERO error: Missing value for option --output. ErrorCode: 1003
-  [1]
-  $ $MERO --output -a l1_sum -l f
-  MERO error: Missing value for option --output. ErrorCode: 1003
-  [1]
-  $ $MERO --outputx
-  MERO error: Option --outputx is not a valid --output option. ErrorCode: 1004
-  [1]
+  $ r --
+  MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006 [1]
+  $ r --foo -a l1_sum
+  MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006 [1]
+  $ r -l f --output
+  MERO error: Missing value for option --output. ErrorCode: 1003 [1]
+  $ r --output -a l1_sum -l f
+  MERO error: Missing value for option --output. ErrorCode: 1003 [1]
+  $ r --outputx
+  MERO error: Option --outputx is not a valid --output option. ErrorCode: 1004 [1]
 
 Unknown names are reported with the code of the chain that the files select; an empty name at
 the end of the line is unknown too.
 
-  $ $MERO -l f -a
-  MERO error: Illegal algorithm or missing data. ErrorCode: 1007
-  [1]
-  $ $MERO -l f -m m -a l1_sum
-  MERO error: Illegal algorithm or missing data. ErrorCode: 1008
-  [1]
-  $ $MERO -l f -r r -a l1_sum
-  MERO error: Illegal algorithm or missing data. ErrorCode: 1009
-  [1]
-  $ $MERO -l f -d g -a L_block_max_M3
-  MERO error: Illegal algorithm or missing data. ErrorCode: 1010
-  [1]
+  $ r -l f -a
+  MERO error: Illegal algorithm or missing data. ErrorCode: 1007 [1]
+  $ r -l f -m m -a l1_sum
+  MERO error: Illegal algorithm or missing data. ErrorCode: 1008 [1]
+  $ r -l f -r r -a l1_sum
+  MERO error: Illegal algorithm or missing data. ErrorCode: 1009 [1]
+  $ r -l f -d g -a L_block_max_M3
+  MERO error: Illegal algorithm or missing data. ErrorCode: 1010 [1]
 
 With restrictions and gauges an unknown name prints the usage text alone; so does any name with
 gauges and a matrix.
@@ -176,30 +165,24 @@ gauges and a matrix.
 
 The p and N checks.
 
-  $ $MERO -l f -a lp_sum
-  MERO error: Missing p-value for lp-algorithm. ErrorCode: 1011
-  [1]
-  $ $MERO -g f -a N_median_exchange
-  MERO error: Missing number of new facilities for algorithms on graphs. ErrorCode: 1012
-  [1]
+  $ r -l f -a lp_sum
+  MERO error: Missing p-value for lp-algorithm. ErrorCode: 1011 [1]
+  $ r -g f -a N_median_exchange
+  MERO error: Missing number of new facilities for algorithms on graphs. ErrorCode: 1012 [1]
 
 -p writes lpinfo as soon as it is accepted, into $tmp, else $TMPDIR, else /tmp; atoi rules.
 
-  $ mkdir t && tmp=$PWD/t $MERO -p 3 -x
-  MERO error: Unrecognized option -x ErrorCode: 1005
-  [1]
-  $ cat t/lpinfo; echo
+  $ mkdir t u && tmp=$PWD/t r -p 3 -x && cat t/lpinfo && echo
+  MERO error: Unrecognized option -x ErrorCode: 1005 [1]
   3 0.0001 0.0001 50
-  $ mkdir u && env -u tmp TMPDIR=$PWD/u $MERO -p=x -x > /dev/null
-  [1]
-  $ cat u/lpinfo; echo
+  $ (unset tmp; TMPDIR=$PWD/u r -p=x -x) && cat u/lpinfo && echo
+  MERO error: Unrecognized option -x ErrorCode: 1005 [1]
   0 0.0001 0.0001 50
 
 Errors in a windowed run without a window layer still reach the console.
 
-  $ $MERO -l f -a unknown --output=windowed
-  MERO error: Illegal algorithm or missing data. ErrorCode: 1007
-  [1]
+  $ r -l f -a unknown --output=windowed
+  MERO error: Illegal algorithm or missing data. ErrorCode: 1007 [1]
 
 Without any argument the program looks for its front end beside it; without the script it says
 so and ends normally.

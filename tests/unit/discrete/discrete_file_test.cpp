@@ -25,25 +25,13 @@ std::vector<double> weights_of(const std::list<location>& points, int column) {
   return w;
 }
 
+// A // comment forgives the line end after it, so a location line may end in one and a comment
+// line may stand between points; a block comment may stand between numbers.
 const char* const with_supply =
-    "text before the file is skipped\n"
-    "BEGIN {Discrete}\n"
-    "begin {demand}\n"
-    "0 0 3 [a]\n"
-    "// a comment line between two points\n"
-    "2.5 1 L_INF\n"
-    "end {demand}\n"
-    "begin {supply}\n"
-    "\n"
-    "2\n"
-    "1 1 9 7 [s one]\n"
-    "5 1 1e1 0 [s2]\n"
-    "4 3 L_INF 1 []\n"
-    "end {supply}\n"
-    "begin {costmatrix}\n"
-    "6 18 l_inf\n"
-    "1 /* inside */ 3 4\n"
-    "end {costmatrix}\n"
+    "text before the file is skipped\nBEGIN {Discrete} // header\n"
+    "begin {demand}\n0 0 3 [a]\n// a comment line between two points\n2.5 1 L_INF // no name\n"
+    "end {demand}\nbegin {supply}\n\n2\n1 1 9 7 [s one]\n5 1 1e1 0 [s2]\n4 3 L_INF 1 []\n"
+    "end {supply}\nbegin {costmatrix}\n6 18 l_inf\n1 /* inside */ 3 4\nend {costmatrix}\n"
     "anything after the matrix is not read [\n";
 
 TEST(discrete_file, reads_demand_supply_and_matrix) {
@@ -66,16 +54,6 @@ TEST(discrete_file, reads_demand_supply_and_matrix) {
   EXPECT_TRUE(p.opt.empty());
 }
 
-TEST(discrete_file, without_supply_block_the_demand_points_are_the_supply_points) {
-  const discrete_problem p = read_text(
-      "begin {discrete}\nbegin {demand}\n0 0 4 [x]\n1 0 5 [y]\nend {demand}\n"
-      "begin {costmatrix}\n0 1\n1 0\nend {costmatrix}\n");
-  EXPECT_TRUE(p.supply_is_demand);
-  EXPECT_EQ(weights_of(p.supply, 0), (std::vector<double>{4, 5}));
-  EXPECT_EQ(p.supply_names, (std::list<std::string>{"x", "y"}));
-  EXPECT_EQ(p.cost.dim2(), 2);
-}
-
 // The writer's form, and its deliberate asymmetry: the reader takes the first coordinate of the
 // first supply line as the weight count.
 TEST(discrete_file, writes_its_own_form) {
@@ -93,16 +71,12 @@ TEST(discrete_file, writes_its_own_form) {
                 "instead.");
 }
 
-struct bad_file {
-  const char* text;
-  const char* message;
-};
-
-const char* const head = "begin {discrete}\nbegin {demand}\n";
-
 TEST(discrete_file, every_syntax_error_has_its_message) {
-  const std::string h = head;
-  const bad_file cases[] = {
+  const std::string head = "begin {discrete}\nbegin {demand}\n";
+  const struct {
+    const char* text;
+    const char* message;
+  } cases[] = {
       {"0 x 1\n", "Coordinate #2 expected in discrete file at line 3, found \"x 1\" instead."},
       {"0 1\n", "Coordinate #2 expected in discrete file at line 3, found \"1\" instead."},
       {"0 1 w\n", "Weight #1 expected in discrete file at line 3, found \"w\" instead"},
@@ -134,27 +108,15 @@ TEST(discrete_file, every_syntax_error_has_its_message) {
       {"0 1 2\nend {demand}\nbegin {costmatrix}\n1 two\n", "unexpected text  in line 6: two"},
       {"0 1 2\nend {demand}\n", "Unexpected end of discrete file at line 5."},
   };
-  for (const bad_file& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.text);
-    EXPECT_REPORT(read_text(h + c.text), 3107, c.message);
+    EXPECT_REPORT(read_text(head + c.text), 3107, c.message);
   }
 }
 
-TEST(discrete_file, comments_and_empty_files) {
-  // A // comment forgives the newline after it, so a location line may end in one and a comment
-  // line may stand between points.
-  const discrete_problem p = read_text(
-      "begin {discrete} // header\nbegin {demand}\n0 0 1 // first\n// between\n1 1 1 [b]\n"
-      "end {demand}\nbegin {costmatrix}\n1 2\n2 1\nend {costmatrix}\n");
-  EXPECT_EQ(p.demand.size(), 2u);
+TEST(discrete_file, empty_files_and_files_that_cannot_be_opened) {
   // A file without "begin {discrete}" is an empty problem, which the solvers refuse.
-  discrete_problem empty = read_text("nothing here\n/* begin {discrete} */\n");
-  EXPECT_TRUE(empty.demand.empty());
-  EXPECT_REPORT(empty.UFL_Greedy(), 3108,
-                "Discrete problem without demand or supply points: give a discrete file with -d.");
-}
-
-TEST(discrete_file, files_that_cannot_be_opened) {
+  EXPECT_TRUE(read_text("nothing here\n/* begin {discrete} */\n").demand.empty());
   discrete_problem p;
   EXPECT_REPORT(read_discrete_file("/nonexistent/discrete.dat", p), 3106, "Can't open file!");
   EXPECT_REPORT(read_discrete_file("/", p), 3106, "Can't open file!");

@@ -8,11 +8,17 @@
 
 namespace mero::testing {
 
-inline discrete_problem make_discrete(const std::vector<std::vector<double>>& costs,
-                                      const std::vector<double>& fixed_costs) {
+using cost_rows = std::vector<std::vector<double>>;
+
+// The four solvers, for tests that run each of them.
+using ufl_solver = double (discrete_problem::*)();
+inline constexpr ufl_solver ufl_solvers[] = {
+    &discrete_problem::UFL_Greedy, &discrete_problem::UFL_Stingy,
+    &discrete_problem::UFL_Interchange, &discrete_problem::UFL_Dualoc};
+
+inline discrete_problem make_discrete(const cost_rows& costs, const std::vector<double>& fixed) {
   discrete_problem p;
-  const int m = static_cast<int>(costs.size());
-  const int n = static_cast<int>(fixed_costs.size());
+  const int m = static_cast<int>(costs.size()), n = static_cast<int>(fixed.size());
   p.cost = matrix(m, n);
   for (int i = 0; i < m; ++i) {
     for (int j = 0; j < n; ++j) p.cost(i, j) = costs[i][j];
@@ -20,7 +26,7 @@ inline discrete_problem make_discrete(const std::vector<std::vector<double>>& co
     p.demand_names.push_back("d" + std::to_string(i));
   }
   for (int j = 0; j < n; ++j) {
-    p.supply.push_back(location(2, 1, static_cast<double>(j), 0.0, fixed_costs[j]));
+    p.supply.push_back(location(2, 1, static_cast<double>(j), 0.0, fixed[j]));
     p.supply_names.push_back("s" + std::to_string(j));
   }
   return p;

@@ -1,3 +1,5 @@
+// The location file: what the reader builds, one bad file per message, and the writer's form.
+
 #include "model/location_file.h"
 
 #include <unistd.h>
@@ -6,66 +8,43 @@
 #include <fstream>
 #include <sstream>
 
-#include "model/location_file_messages.h"
 #include "test_support.h"
 
 namespace mero {
 namespace {
 
-// A file of the given text in the temporary directory, removed again at the end of the test.
-class temp_file {
- public:
-  explicit temp_file(const std::string& text)
-      : path_(::testing::TempDir() + "location_file_test_" + std::to_string(::getpid()) + "_" +
-              std::to_string(counter_++) + ".loc") {
-    std::ofstream(path_) << text;
-  }
-  ~temp_file() { std::remove(path_.c_str()); }
-  const std::string& path() const { return path_; }
-
- private:
-  static inline int counter_ = 0;
-  std::string path_;
+// A file of the given text in the temporary directory, removed again when it goes out of scope.
+struct temp_file {
+  explicit temp_file(const std::string& text) { std::ofstream(path) << text; }
+  ~temp_file() { std::remove(path.c_str()); }
+  static inline int counter = 0;
+  const std::string path = ::testing::TempDir() + "location_file_test_" +
+                           std::to_string(::getpid()) + "_" + std::to_string(counter++) + ".loc";
 };
 
 facilities read(const std::string& text) {
   temp_file file(text);
   facilities f;
-  read_location_file(file.path(), f);
+  read_location_file(file.path, f);
   return f;
 }
 
-void expect_syntax_error(const std::string& text, const std::string& message) {
-  temp_file file(text);
-  facilities f;
-  EXPECT_REPORT(read_location_file(file.path(), f), 1504, message);
-}
-
-TEST(location_file, reads_the_example_with_two_weights) {
+TEST(location_file, reads_weights_names_and_header_forms) {
   facilities f = read(
-      "begin {location} [2,2]\n"
-      "// comment line\n"
-      "0.5 1 2 L_inf [depot]\n"
-      "3 4.25 1 1\n"
+      "begin {location} [2,2]\n// comment line\n0.5 1 2 L_inf [depot]\n3 4.25 1 1\n"
       "end {location}\n");
   ASSERT_EQ(f.size(), 2u);
   EXPECT_EQ(f.front(), location(2.0, 2.0, 0.5, 1.0, 2.0, 1e50));
   EXPECT_EQ(f.back(), location(2.0, 2.0, 3.0, 4.25, 1.0, 1.0));
   EXPECT_EQ(f.names, (std::list<std::string>{"depot", ""}));
-}
-
-TEST(location_file, header_forms) {
-  facilities f = read("BEGIN{LOCATION}\n1 2 3\nEND\n");
-  EXPECT_EQ(f.front(), location(2.0, 1.0, 1.0, 2.0, 3.0));
-  f = read("begin { location } [3]\n1 2 3 4 [p]\nend\n");
-  EXPECT_EQ(f.front(), location(3.0, 1.0, 1.0, 2.0, 3.0, 4.0));
-  f = read("begin {location} [1,3]\n-1.5e1 1 2 3\nend\n");
-  EXPECT_EQ(f.front(), location(1.0, 3.0, -15.0, 1.0, 2.0, 3.0));
-}
-
-TEST(location_file, a_file_without_header_is_empty) {
-  facilities f = read("nothing to see\n");
-  EXPECT_TRUE(f.empty());
+  EXPECT_EQ(read("BEGIN{LOCATION}\n1 2 3\nEND\n").front(), location(2.0, 1.0, 1.0, 2.0, 3.0));
+  EXPECT_EQ(read("begin { location } [3]\n1 2 3 4 [p]\nend\n").front(),
+            location(3.0, 1.0, 1.0, 2.0, 3.0, 4.0));
+  EXPECT_EQ(read("begin {location} [1,3]\n-1.5e1 1 2 3\nend\n").front(),
+            location(1.0, 3.0, -15.0, 1.0, 2.0, 3.0));
+  EXPECT_TRUE(read("nothing to see\n").empty());
+  EXPECT_REPORT(read_location_file("/nonexistent/dir/x.loc", f), 1503, "Can't open file!");
+  EXPECT_REPORT(read_location_file(::testing::TempDir(), f), 1503, "Can't open file!");
 }
 
 TEST(location_file, replaces_what_was_there) {
@@ -73,53 +52,67 @@ TEST(location_file, replaces_what_was_there) {
   facilities f;
   f.push_back(location(2, 1));
   f.names = {"old", "older"};
-  read_location_file(file.path(), f);
+  read_location_file(file.path, f);
   ASSERT_EQ(f.size(), 1u);
   EXPECT_EQ(f.names, std::list<std::string>{""});
 }
 
-TEST(location_file, syntax_errors_carry_the_rest_of_the_line) {
-  namespace t = location_file_messages;
-  expect_syntax_error("begin {location} [3,2]\n1 2 3 4 5 [a] [b]\n",
-                      "Second name (\"b\") found in location file at line 2.");
-  expect_syntax_error("begin {location}\n1 2 3\n4 x5 6 [q]\n",
-                      "Coordinate #2 expected in location file at line 3, found \"x5 6 [q]\" "
-                      "instead.");
-  expect_syntax_error("begin {location}\n1 2 3 4\n",
-                      "Name of location expected in location file at line 2, found \"4\" "
-                      "instead.");
-  expect_syntax_error("begin {location} [2,1]\n1 2 a\n",
-                      "Weight #1 expected in location file at line 2, found \"a\" instead");
-}
-
-TEST(location_file, weight_dimension_zero_still_reads_one_weight) {
-  temp_file file("begin {location} [2,0]\n1 2 3\nend\n");
-  facilities f;
-  EXPECT_REPORT(read_location_file(file.path(), f), 1209, "Index out of range.");
+// Each file holds one fault; the message joins the offending token and the rest of its line.
+TEST(location_file, every_syntax_error_has_its_message) {
+  const struct {
+    const char* text;
+    const char* message;
+  } cases[] = {
+      {"begin {location} [0,1]\n1 2\n", "Dimension too small in location file at line 1."},
+      {"begin {location} [two,1]\n",
+       "Dimension expected in location file at line 1, found \"two,1]\" instead."},
+      {"begin {location} [2;1]\n",
+       "Weight dimension expected in location file at line 1, found \";1]\" instead."},
+      {"begin {location} [2,-1]\n",
+       "Weight dimension expected in location file at line 1, found \"-1]\" instead."},
+      {"begin {location} [2,1} x\n",
+       "Closing bracket expected in location file at line 1, found \"} x\" instead."},
+      // A coordinate owns the blank behind it, so the last one cannot end its line.
+      {"begin {location}\n1 2\nend\n",
+       "Coordinate #2 expected in location file at line 2, found \"2\" instead."},
+      {"begin {location}\n1 2 3\n4 x5 6 [q]\n",
+       "Coordinate #2 expected in location file at line 3, found \"x5 6 [q]\" instead."},
+      // No closing full stop in the weight message.
+      {"begin {location}\n1 2 [a]\n",
+       "Weight #1 expected in location file at line 2, found \"[a]\" instead"},
+      {"begin {location} [2,2]\n1 2 3 heavy [a]\n",
+       "Weight #2 expected in location file at line 2, found \"heavy [a]\" instead"},
+      {"begin {location} [3,2]\n1 2 3 4 5 [a] [b]\n",
+       "Second name (\"b\") found in location file at line 2."},
+      {"begin {location}\n1 2 3 [a] 4 5\n",
+       "End of line expected in location file at line 2, found \"4 5\" instead."},
+      {"begin {location}\n1 2 3 a\n",
+       "Name of location expected in location file at line 2, found \"a\" instead."},
+      {"begin {location}\n1 2 3 [a]\n\n4 5 6 [b]\n",
+       "Illegal linebreak in location file at line 3."},
+      // A block comment, unlike a line comment, does not forgive the line end after it.
+      {"begin {location}\n1 2 3 [a]\n/* no flag */\n4 6 1 [b]\n",
+       "Illegal linebreak in location file at line 3."},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    EXPECT_REPORT(read(c.text), 1504, c.message);
+  }
+  // A weight dimension of 0 still reads one weight, which then has no place to go.
+  EXPECT_REPORT(read("begin {location} [2,0]\n1 2 3\nend\n"), 1209, "Index out of range.");
 }
 
 TEST(location_file, gauge_numbers) {
-  temp_file file(
-      "begin {location}\n"
-      "1 2 3 { 2 } [a]\n"
-      "4 5 6 {-1}\n"
-      "7 8 9 [c]\n"
-      "end\n");
+  temp_file file("begin {location}\n1 2 3 { 2 } [a]\n4 5 6 {-1}\n7 8 9 [c]\nend\n");
   facilities f;
   std::vector<int> gauges{99};
-  read_gauge_location_file(file.path(), f, gauges);
+  read_gauge_location_file(file.path, f, gauges);
   ASSERT_EQ(f.size(), 3u);
   EXPECT_EQ(gauges, (std::vector<int>{2, -1}));
   EXPECT_EQ(f.names, (std::list<std::string>{"a", "", "c"}));
   temp_file bad("begin {location}\n1 2 3 x\n");
-  EXPECT_REPORT(read_gauge_location_file(bad.path(), f, gauges), 1504,
+  EXPECT_REPORT(read_gauge_location_file(bad.path, f, gauges), 1504,
                 "Number of Gauge expected  at line 2, found \"x\" instead.");
-}
-
-TEST(location_file, missing_file) {
-  facilities f;
-  EXPECT_REPORT(read_location_file("/nonexistent/dir/x.loc", f), 1503, "Can't open file!");
-  EXPECT_REPORT(read_location_file(::testing::TempDir(), f), 1503, "Can't open file!");
 }
 
 TEST(location_file, writer_output_reads_back_identically) {
@@ -131,11 +124,8 @@ TEST(location_file, writer_output_reads_back_identically) {
   std::ostringstream out;
   write_locations(out, f);
   EXPECT_EQ(out.str(),
-            "begin {location} [2,2]\n"
-            "0.5 -3  1 1e+50  [depot one]\n"
-            "123456 1e-05  0 2.5  []\n"
-            "-7 8  3 4  []\n"
-            "end {location}\n");
+            "begin {location} [2,2]\n0.5 -3  1 1e+50  [depot one]\n123456 1e-05  0 2.5  []\n"
+            "-7 8  3 4  []\nend {location}\n");
   facilities back = read(out.str());
   EXPECT_EQ(static_cast<std::list<location>&>(back), static_cast<std::list<location>&>(f));
   EXPECT_EQ(back.names, (std::list<std::string>{"depot one", "", ""}));
