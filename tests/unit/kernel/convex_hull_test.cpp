@@ -6,7 +6,6 @@
 #include "test_support.h"
 
 namespace mero {
-namespace {
 
 TEST(convex_hull, degenerate_sets_and_repeated_points) {
   using points = std::vector<point>;
@@ -38,5 +37,4 @@ TEST(convex_hull, random_sets_are_enclosed_counter_clockwise) {
   }
 }
 
-}  // namespace
 }  // namespace mero

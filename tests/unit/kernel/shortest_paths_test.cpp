@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <random>
-#include <vector>
 
 #include "test_graphs.h"
 #include "test_support.h"
@@ -12,64 +11,60 @@ namespace {
 
 constexpr double unreachable = 1e300;
 
-using length_graph = GRAPH<int, double>;
-
-edge_array<double> lengths_of(const length_graph& g) {
+edge_array<double> lengths_of(const GRAPH<int, double>& g, bool absolute = false) {
   edge_array<double> cost(g);
-  for (edge e : g.all_edges()) cost[e] = g.inf(e);
+  for (edge e : g.all_edges()) cost[e] = absolute ? std::fabs(g.inf(e)) : g.inf(e);
   return cost;
 }
 
-// Random arcs with negative lengths and no negative cycle: integer lengths
-// r + phi(target) - phi(source) with r >= 0, so every cycle keeps the non-negative sum of its r.
-std::vector<testing::arc> random_arcs(std::mt19937& rng, int n) {
-  std::vector<int> phi(n);
-  for (int& p : phi) p = static_cast<int>(rng() % 21);
-  std::vector<testing::arc> arcs(rng() % (3 * n));
-  for (auto& a : arcs) {
-    a.from = static_cast<int>(rng() % n);
-    a.to = static_cast<int>(rng() % n);
-    a.length = static_cast<int>(rng() % 10) + phi[a.to] - phi[a.from];
-  }
-  return arcs;
-}
-
-// Checks a single-source run from node 0 against the reference distances `row`: every reached
-// node has its distance and is entered by its pred edge from a node at the matching distance.
+// A single-source run from node 0 against the reference distances `row`: every reached node
+// has its distance and is entered by its pred edge from a node at the matching distance.
 // Dijkstra also promises to leave the entries (here -1) of unreached nodes alone.
-void expect_tree(const length_graph& g, const edge_array<double>& cost,
-                 const std::vector<double>& row, const node_array<double>& dist,
-                 const node_array<edge>& pred, bool keeps_unreached) {
+void expect_tree(const GRAPH<int, double>& g, const edge_array<double>& cost,
+                 const std::vector<double>& row, bool keeps_unreached) {
+  node_array<double> dist(g, -1.0);
+  node_array<edge> pred(g, nullptr);
+  if (keeps_unreached) {
+    dijkstra(g, g.first_node(), cost, dist, pred);
+  } else {
+    ASSERT_TRUE(bellman_ford(g, g.first_node(), cost, dist, pred));
+  }
   for (node v : g.all_nodes()) {
     double expected = row[graph::index(v)];
+    edge e = pred[v];
     if (expected == unreachable) {
       EXPECT_TRUE(!keeps_unreached || dist[v] == -1.0) << "node " << graph::index(v);
       continue;
     }
     EXPECT_NEAR(dist[v], expected, 1e-9);
-    edge e = pred[v];
     if (graph::index(v) == 0) {
       EXPECT_EQ(e, nullptr);
-    } else if (e == nullptr || graph::target(e) != v) {
-      ADD_FAILURE() << "node " << graph::index(v) << " is not entered by its pred edge";
     } else {
+      ASSERT_TRUE(e != nullptr && graph::target(e) == v) << "node " << graph::index(v);
       EXPECT_NEAR(dist[graph::source(e)] + cost[e], dist[v], 1e-9);
     }
   }
 }
 
+// Random arcs with negative lengths and no negative cycle: integer lengths
+// r + phi(target) - phi(source) with r >= 0, so every cycle keeps the non-negative sum of its r.
 TEST(shortest_paths, agree_with_floyd_warshall_on_random_graphs) {
   std::mt19937 rng(20261121);
   int negative_edges = 0, unreached_pairs = 0;
   for (int round = 0; round < 40; ++round) {
     int n = 2 + round % 12;
-    std::vector<testing::arc> arcs = random_arcs(rng, n);
-    length_graph g = testing::graph_of(n, arcs);
-    for (const auto& a : arcs) negative_edges += a.length < 0;
+    std::vector<int> phi(n);
+    for (int& p : phi) p = static_cast<int>(rng() % 21);
+    std::vector<testing::arc> arcs(rng() % (3 * n));
+    for (auto& a : arcs) {
+      a = {static_cast<int>(rng() % n), static_cast<int>(rng() % n), 0.0};
+      a.length = static_cast<int>(rng() % 10) + phi[a.to] - phi[a.from];
+      negative_edges += a.length < 0;
+    }
+    GRAPH<int, double> g = testing::graph_of(n, arcs);
     auto reference = testing::reference_distances(n, arcs, false, unreachable);
     std::vector<std::vector<double>> table;
     ASSERT_TRUE(all_pairs_shortest_paths(g, lengths_of(g), table));
-    EXPECT_EQ(g.number_of_nodes(), n);
     // Where no path exists, the potential difference: p(v) is the distance from a new node
     // joined to all by length 0.
     std::vector<double> p(n, 0.0);
@@ -82,18 +77,10 @@ TEST(shortest_paths, agree_with_floyd_warshall_on_random_graphs) {
         EXPECT_NEAR(table[v][w], reached ? reference[v][w] : p[w] - p[v], 1e-9)
             << "round " << round << " pair " << v << "," << w;
       }
-    node_array<double> dist(g, -1.0);
-    node_array<edge> pred(g, nullptr);
-    ASSERT_TRUE(bellman_ford(g, g.first_node(), lengths_of(g), dist, pred));
-    expect_tree(g, lengths_of(g), reference[0], dist, pred, false);
-    // Dijkstra on the lengths made non-negative.
+    expect_tree(g, lengths_of(g), reference[0], false);
     for (auto& a : arcs) a.length = std::fabs(a.length);
-    length_graph h = testing::graph_of(n, arcs);
-    node_array<double> h_dist(h, -1.0);
-    node_array<edge> h_pred(h, nullptr);
-    dijkstra(h, h.first_node(), lengths_of(h), h_dist, h_pred);
-    reference = testing::reference_distances(n, arcs, false, unreachable);
-    expect_tree(h, lengths_of(h), reference[0], h_dist, h_pred, true);
+    expect_tree(g, lengths_of(g, true),
+                testing::reference_distances(n, arcs, false, unreachable)[0], true);
   }
   EXPECT_GT(negative_edges, 20);
   EXPECT_GT(unreached_pairs, 20);
@@ -101,7 +88,7 @@ TEST(shortest_paths, agree_with_floyd_warshall_on_random_graphs) {
 
 TEST(shortest_paths, negative_cycle_is_detected_and_the_graph_restored) {
   // 0 -> 1 (1), 1 -> 2 (-2), 2 -> 1 (1.5), 2 -> 3 (1): the cycle 1-2 cannot be reached from 3.
-  length_graph g = testing::graph_of(4, {{0, 1, 1.0}, {1, 2, -2.0}, {2, 1, 1.5}, {2, 3, 1.0}});
+  auto g = testing::graph_of(4, {{0, 1, 1.0}, {1, 2, -2.0}, {2, 1, 1.5}, {2, 3, 1.0}});
   std::vector<std::vector<double>> table;
   EXPECT_FALSE(all_pairs_shortest_paths(g, lengths_of(g), table));
   EXPECT_EQ(g.number_of_nodes(), 4);
@@ -110,9 +97,9 @@ TEST(shortest_paths, negative_cycle_is_detected_and_the_graph_restored) {
   node_array<edge> pred(g, nullptr);
   EXPECT_FALSE(bellman_ford(g, g.first_node(), lengths_of(g), dist, pred));
   EXPECT_TRUE(bellman_ford(g, g.last_node(), lengths_of(g), dist, pred));
-  length_graph loop = testing::graph_of(1, {{0, 0, -0.5}});
+  auto loop = testing::graph_of(1, {{0, 0, -0.5}});
   EXPECT_FALSE(all_pairs_shortest_paths(loop, lengths_of(loop), table));
-  length_graph undirected = testing::graph_of(2, {{0, 1, -1.0}});
+  auto undirected = testing::graph_of(2, {{0, 1, -1.0}});
   undirected.make_undirected();  // a negative edge walked both ways is a negative cycle
   EXPECT_FALSE(all_pairs_shortest_paths(undirected, lengths_of(undirected), table));
 }
