@@ -7,7 +7,6 @@ namespace {
 
 TEST(algorithm_table, labels_are_formatted_after_the_solver) {
   EXPECT_EQ(format_label(1, {0, 0.001, 0}), "1|P|.|l2 with eps: 1.000E-03|sum");
-  EXPECT_EQ(format_label(3, {3, 0.0001, 0}), "1|P|.|l3 with eps: 1.000E-04|sum");
   EXPECT_EQ(format_label(53, {4, 0.5, 0}), "1|P|restr|l4 with eps: 5.000E-01|sum");
   EXPECT_EQ(format_label(24, {3, 0, 2}), "2|P|.|l3|sum");
   EXPECT_EQ(format_label(41, {0, 0, 5}), "5|P|.|linf|sum");

@@ -1,23 +1,39 @@
 #pragma once
-// Instances and independent checks shared by the tests of the single-facility solvers: random
-// location sets, objectives evaluated from scratch, and a brute-force look at a fine grid.
+// Instances and independent measures shared by the planar solver tests: locations, random
+// location sets, and objectives evaluated from scratch rather than taken from the model.
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <random>
+#include <vector>
 
 #include "model/facilities.h"
+#include "test_support.h"
 
 namespace mero::testing {
 
 inline location at(double x, double y, double w = 1.0) { return location(2.0, 1.0, x, y, w); }
 
-// n locations uniform in [0, side)^2 with weights uniform in [w_lo, w_hi] (equal when equal).
-inline facilities random_problem(unsigned seed, int n, double side = 100.0, double w_lo = 1.0,
-                                 double w_hi = 10.0) {
+// A location with one weight column per entry of w (one per new facility in chain N).
+inline location site(double x, double y, const std::vector<double>& w) {
+  location l(2, static_cast<int>(w.size()));
+  l.coordinate_ref(0) = x;
+  l.coordinate_ref(1) = y;
+  for (std::size_t k = 0; k < w.size(); ++k) l.weight_ref(static_cast<int>(k)) = w[k];
+  return l;
+}
+
+inline facilities problem(const std::vector<location>& locations) {
+  facilities f;
+  f.insert(f.end(), locations.begin(), locations.end());
+  return f;
+}
+
+// n locations uniform in [0, 100)^2 with weights uniform in [w_lo, w_hi] (equal when equal).
+inline facilities random_problem(unsigned seed, int n, double w_lo = 1.0, double w_hi = 10.0) {
   std::mt19937 gen(seed);
-  std::uniform_real_distribution<double> coordinate(0.0, side), weight(w_lo, w_hi);
+  std::uniform_real_distribution<double> coordinate(0.0, 100.0), weight(w_lo, w_hi);
   facilities f;
   for (int i = 0; i < n; ++i) {
     const double x = coordinate(gen), y = coordinate(gen);
@@ -26,17 +42,23 @@ inline facilities random_problem(unsigned seed, int n, double side = 100.0, doub
   return f;
 }
 
-// Distances written out here rather than taken from the model.
+// The dependency matrix of two new facilities tied by v.
+inline matrix tie(double v) {
+  matrix V(2, 2);
+  V(0, 1) = v;
+  return V;
+}
+
+using distance = std::function<double(double, double)>;
+
 inline double l1(double dx, double dy) { return std::fabs(dx) + std::fabs(dy); }
 inline double l2(double dx, double dy) { return std::sqrt(dx * dx + dy * dy); }
 inline double linf(double dx, double dy) { return std::max(std::fabs(dx), std::fabs(dy)); }
-inline std::function<double(double, double)> lp(double p) {
+inline distance lp(double p) {
   return [p](double dx, double dy) {
     return std::pow(std::pow(std::fabs(dx), p) + std::pow(std::fabs(dy), p), 1.0 / p);
   };
 }
-
-using distance = std::function<double(double, double)>;
 
 inline double sum_objective(const facilities& f, const distance& d, double x, double y) {
   double s = 0.0;
@@ -49,15 +71,6 @@ inline double max_objective(const facilities& f, const distance& d, double x, do
   for (const location& l : f)
     s = std::max(s, l.weight(0) * d(l.coordinate(0) - x, l.coordinate(1) - y));
   return s;
-}
-
-// The smallest value of objective on a (2k+1)^2 grid of spacing h centred at (x, y).
-inline double grid_minimum(const std::function<double(double, double)>& objective, double x,
-                           double y, double h, int k = 20) {
-  double best = objective(x, y);
-  for (int i = -k; i <= k; ++i)
-    for (int j = -k; j <= k; ++j) best = std::min(best, objective(x + i * h, y + j * h));
-  return best;
 }
 
 inline double x_of(const location& l) { return l.coordinate(0); }
