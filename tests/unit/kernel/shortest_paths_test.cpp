@@ -21,28 +21,23 @@ edge_array<double> lengths_of(const GRAPH<int, double>& g, bool absolute = false
 // has its distance and is entered by its pred edge from a node at the matching distance.
 // Dijkstra also promises to leave the entries (here -1) of unreached nodes alone.
 void expect_tree(const GRAPH<int, double>& g, const edge_array<double>& cost,
-                 const std::vector<double>& row, bool keeps_unreached) {
+                 const std::vector<double>& row, bool by_dijkstra) {
   node_array<double> dist(g, -1.0);
   node_array<edge> pred(g, nullptr);
-  if (keeps_unreached) {
-    dijkstra(g, g.first_node(), cost, dist, pred);
-  } else {
-    ASSERT_TRUE(bellman_ford(g, g.first_node(), cost, dist, pred));
-  }
+  if (by_dijkstra) dijkstra(g, g.first_node(), cost, dist, pred);
+  ASSERT_TRUE(by_dijkstra || bellman_ford(g, g.first_node(), cost, dist, pred));
   for (node v : g.all_nodes()) {
-    double expected = row[graph::index(v)];
     edge e = pred[v];
-    if (expected == unreachable) {
-      EXPECT_TRUE(!keeps_unreached || dist[v] == -1.0) << "node " << graph::index(v);
+    if (row[graph::index(v)] == unreachable) {
+      EXPECT_TRUE(!by_dijkstra || dist[v] == -1.0) << "node " << graph::index(v);
       continue;
     }
-    EXPECT_NEAR(dist[v], expected, 1e-9);
-    if (graph::index(v) == 0) {
-      EXPECT_EQ(e, nullptr);
-    } else {
-      ASSERT_TRUE(e != nullptr && graph::target(e) == v) << "node " << graph::index(v);
-      EXPECT_NEAR(dist[graph::source(e)] + cost[e], dist[v], 1e-9);
-    }
+    EXPECT_NEAR(dist[v], row[graph::index(v)], 1e-9);
+    EXPECT_TRUE(graph::index(v) == 0
+                    ? e == nullptr
+                    : e != nullptr && graph::target(e) == v &&
+                          std::fabs(dist[graph::source(e)] + cost[e] - dist[v]) < 1e-9)
+        << "node " << graph::index(v);
   }
 }
 

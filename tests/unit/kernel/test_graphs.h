@@ -19,9 +19,7 @@ inline GRAPH<int, double> graph_of(int n, const std::vector<arc>& arcs) {
   GRAPH<int, double> g;
   std::vector<node> nodes;
   for (int i = 0; i < n; ++i) nodes.push_back(g.new_node(i));
-  for (const arc& a : arcs)
-    g.new_edge(nodes[static_cast<std::size_t>(a.from)], nodes[static_cast<std::size_t>(a.to)],
-               a.length);
+  for (const arc& a : arcs) g.new_edge(nodes[a.from], nodes[a.to], a.length);
   return g;
 }
 
@@ -29,17 +27,15 @@ inline GRAPH<int, double> graph_of(int n, const std::vector<arc>& arcs) {
 // exists.
 inline std::vector<std::vector<double>> reference_distances(int n, const std::vector<arc>& arcs,
                                                             bool undirected, double none) {
-  auto size = static_cast<std::size_t>(n);
-  std::vector<std::vector<double>> d(size, std::vector<double>(size, none));
-  for (std::size_t i = 0; i < size; ++i) d[i][i] = 0.0;
+  std::vector<std::vector<double>> d(n, std::vector<double>(n, none));
+  for (int i = 0; i < n; ++i) d[i][i] = 0.0;
   for (const arc& a : arcs) {
-    auto s = static_cast<std::size_t>(a.from), t = static_cast<std::size_t>(a.to);
-    d[s][t] = std::min(d[s][t], a.length);
-    if (undirected) d[t][s] = std::min(d[t][s], a.length);
+    d[a.from][a.to] = std::min(d[a.from][a.to], a.length);
+    if (undirected) d[a.to][a.from] = std::min(d[a.to][a.from], a.length);
   }
-  for (std::size_t k = 0; k < size; ++k)
-    for (std::size_t i = 0; i < size; ++i)
-      for (std::size_t j = 0; j < size; ++j)
+  for (int k = 0; k < n; ++k)
+    for (int i = 0; i < n; ++i)
+      for (int j = 0; j < n; ++j)
         if (d[i][k] != none && d[k][j] != none) d[i][j] = std::min(d[i][j], d[i][k] + d[k][j]);
   return d;
 }

@@ -7,7 +7,7 @@
 
 namespace mero {
 
-TEST(graph_file_io, written_graph_reads_back) {
+TEST(graph_file_io, written_graph_reads_back_and_unopenable_files) {
   location_graph g = testing::make_location_graph({1, 2.5, 3}, {{0, 1, 1.5}, {2, 0, 4}});
   std::ostringstream adjacency, whole;
   write_adjacency(adjacency, g);
@@ -28,11 +28,6 @@ TEST(graph_file_io, written_graph_reads_back) {
   write_adjacency(again, back);
   EXPECT_EQ(again.str(), adjacency.str());
   EXPECT_EQ(head_weights(back), (std::vector<double>{1, 2.5, 3}));
-}
-
-TEST(graph_file_io, files_that_cannot_be_opened) {
-  location_graph g;
-  facilities locations;
   EXPECT_REPORT(write_adjacency(std::string("/nonexistent/dir/a"), g), 2103, "Can't open file !");
   EXPECT_REPORT(write_graph(std::string("/nonexistent/dir/a"), g, locations), 2104,
                 "Can't open file !");

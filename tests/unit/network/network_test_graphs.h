@@ -15,9 +15,7 @@ inline location_graph make_location_graph(const std::vector<double>& weights,
   location_graph g;
   std::vector<node> nodes;
   for (double w : weights) nodes.push_back(g.new_node(node_weights{{w}, {}}));
-  for (const arc& a : arcs)
-    g.new_edge(nodes[static_cast<std::size_t>(a.from)], nodes[static_cast<std::size_t>(a.to)],
-               a.length);
+  for (const arc& a : arcs) g.new_edge(nodes[a.from], nodes[a.to], a.length);
   return g;
 }
 
