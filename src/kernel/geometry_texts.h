@@ -1,7 +1,7 @@
 #pragma once
 // The failure texts of the kernel's number vector, dense matrix and planar geometry types. Each
-// is raised through kernel_error with code 1 (which stops the run); the unit tests assert against
-// the same constants. Trailing newlines are part of the texts as the system prints them.
+// is raised through kernel_error with code 1 (which stops the run). Trailing newlines are part of
+// the texts as the system prints them.
 
 namespace mero::texts {
 
