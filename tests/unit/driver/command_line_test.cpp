@@ -10,16 +10,7 @@ run_request parse(std::vector<std::string> args) {
   return parse_command_line(args);
 }
 
-TEST(command_line, value_forms_and_output_lists) {
-  for (auto args : std::vector<std::vector<std::string>>{{"-a=l1_sum", "-l", "f"},
-                                                         {"-a:l1_sum", "-lf"},
-                                                         {"-al1_sum", "-l=f"},
-                                                         {"-a", "l1_sum", "-l:f"}}) {
-    const run_request r = parse(args);
-    EXPECT_EQ(r.algorithm, 0);
-    EXPECT_EQ(r.data_file, "f");
-    EXPECT_TRUE(r.windowed);
-  }
+TEST(command_line, output_lists) {
   // The rightmost argument of each kind counts.
   run_request r = parse({"-a", "l1_sum", "-l", "f", "--output=a.txt,nowindowed,b.txt"});
   EXPECT_EQ(r.output_file, "b.txt");

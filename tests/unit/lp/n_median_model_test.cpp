@@ -2,19 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace mero {
 namespace {
 
 TEST(n_median_model, one_two_and_three_medians_on_a_path_of_three) {
   // Path 1 - 2 - 3 with edge lengths 1 and 3 and node weights 1, 2, 1. Column (i - 1) * 3 + j
-  // costs w_j * d(i, j).
-  const std::vector<std::vector<double>> d{{0, 1, 4}, {1, 0, 3}, {4, 3, 0}};
-  const std::vector<double> w{1, 2, 1};
-  std::vector<double> objective{0.0};
-  for (int i = 0; i < 3; ++i)
-    for (int j = 0; j < 3; ++j) objective.push_back(w[j] * d[i][j]);
+  // costs w_j * d(i, j), so row i of the matrix reads 0 2 4, 1 0 3, 4 6 0.
+  const std::vector<double> objective{0, 0, 2, 4, 1, 0, 3, 4, 6, 0};
   struct expectation {
     int p;
     double value;

@@ -25,23 +25,6 @@ TEST(is_l2_optimal, own_weight_against_the_pull_of_the_others) {
   EXPECT_FALSE(f.is_l2_optimal(at(0, 0, 1.41), 0));
 }
 
-TEST(l2_sum, large_eps_stops_after_one_weiszfeld_step) {
-  facilities f = problem({at(0, 0), at(4, 0), at(0, 3)});
-  // Start at the centre of gravity (4/3, 1); one step of the Weiszfeld map written out.
-  double sx = 0, sy = 0, sw = 0;
-  for (const location& l : f) {
-    const double d = l2(l.coordinate(0) - 4.0 / 3.0, l.coordinate(1) - 1.0);
-    sx += l.coordinate(0) / d;
-    sy += l.coordinate(1) / d;
-    sw += 1.0 / d;
-  }
-  const double value = f.l2_sum(0, 0.99, true);
-  ASSERT_EQ(f.optima().size(), 1u);
-  EXPECT_NEAR(x_of(f.optima().front()), sx / sw, 1e-12);
-  EXPECT_NEAR(y_of(f.optima().front()), sy / sw, 1e-12);
-  EXPECT_NEAR(value, sum_objective(f, l2, sx / sw, sy / sw), 1e-9);
-}
-
 TEST(l2_sum, eps_must_be_positive) {
   facilities f = problem({at(0, 0), at(1, 1)});
   const auto& m = single_facility_messages::l2_eps;

@@ -29,8 +29,8 @@ TEST(lp_sum, one_step_keeps_the_better_of_start_and_first_iterate) {
     sx /= 8;
     sy /= 8;
     const location start = at(sx, sy), first = f.lp_step(start, 3, 1e-4, 0);
-    const double at_start = sum_objective(f, lp(3), sx, sy);
-    const double at_first = sum_objective(f, lp(3), x_of(first), y_of(first));
+    const double at_start = objective_of(f, lp(3), sx, sy);
+    const double at_first = objective_of(f, lp(3), first.coordinate(0), first.coordinate(1));
     const double value = f.lp_sum(3, 1e-4, 1e-4, 1, 0, true);
     EXPECT_NEAR(value, std::min(at_start, at_first), 1e-9 * value);
     EXPECT_EQ(f.optima().front().coordinates(),

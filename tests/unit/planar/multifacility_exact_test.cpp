@@ -1,6 +1,8 @@
 // The exact multifacility methods against answers found without linear programming: a
 // brute-force search over the candidate coordinates (rectilinear sum), a bisection on the
-// bound (maximum-norm center), the stationarity of the quadratic objective (squared sum).
+// bound (maximum-norm center, which the rectilinear center shares), the stationarity of the
+// quadratic objective (squared sum). The first two are the tests of the linear programs in
+// src/lp/l1_model and src/lp/linf_model as well.
 
 #include "planar/multifacility.h"
 #include "planar_fixtures.h"
@@ -8,33 +10,29 @@
 namespace mero::testing {
 namespace {
 
-using std::fabs;
 using sites = std::vector<location>;
 
 std::vector<location> optima_of(const facilities& f) {
   return {f.optima_view().begin(), f.optima_view().end()};
 }
 
-// One axis of the rectilinear two-facility sum for given coordinates.
-double l1_axis_cost(const sites& s, double v, int c, double t0, double t1) {
-  double cost = v * fabs(t0 - t1);
+// The two-facility objective with the facilities at (x0, y0) and (x1, y1): the weighted
+// distances to the locations and the tie's, summed for a median or the largest for a center.
+double objective_at(const sites& s, double v, const distance& d, bool is_max, double x0, double y0,
+                    double x1, double y1) {
+  double value = v * d(x0 - x1, y0 - y1);
   for (const location& l : s)
-    cost += l.weight(0) * fabs(t0 - l.coordinate(c)) + l.weight(1) * fabs(t1 - l.coordinate(c));
-  return cost;
+    for (auto [j, x, y] : {std::tuple{0, x0, y0}, {1, x1, y1}}) {
+      const double term = l.weight(j) * d(x - l.coordinate(0), y - l.coordinate(1));
+      value = is_max ? std::max(value, term) : value + term;
+    }
+  return value;
 }
 
-// An optimum of the rectilinear multifacility sum lies on the grid of the locations'
-// coordinates, axis by axis.
-double l1_brute_force(const sites& s, double v) {
-  double total = 0.0;
-  for (int c = 0; c < 2; ++c) {
-    double best = INFINITY;
-    for (const location& a : s)
-      for (const location& b : s)
-        best = std::min(best, l1_axis_cost(s, v, c, a.coordinate(c), b.coordinate(c)));
-    total += best;
-  }
-  return total;
+double objective_at(const sites& s, double v, const distance& d, bool is_max,
+                    const std::vector<location>& o) {
+  return objective_at(s, v, d, is_max, o[0].coordinate(0), o[0].coordinate(1), o[1].coordinate(0),
+                      o[1].coordinate(1));
 }
 
 TEST(N_l1_sum_v1, matches_the_brute_force_over_the_coordinate_grid) {
@@ -49,16 +47,21 @@ TEST(N_l1_sum_v1, matches_the_brute_force_over_the_coordinate_grid) {
   cases.emplace_back(sites{site(0, 0, {1, 0}), site(10, 0, {0, 1})}, 1.5);
   cases.emplace_back(sites{site(10, 0, {1, 0}), site(0, 0, {0, 1})}, 1.5);
   for (const auto& [s, v] : cases) {
+    // An optimum lies on the grid of the locations' coordinates.
+    double best = INFINITY;
+    for (const location& a : s)
+      for (const location& b : s)
+        for (const location& c : s)
+          for (const location& e : s)
+            best = std::min(best, objective_at(s, v, l1, false, a.coordinate(0), b.coordinate(1),
+                                               c.coordinate(0), e.coordinate(1)));
     facilities f = problem(s);
     const double value = f.N_l1_sum_v1(2, tie(v), true);
-    EXPECT_NEAR(value, l1_brute_force(s, v), 1e-7) << "v = " << v;
+    EXPECT_NEAR(value, best, 1e-7) << "v = " << v;
+    // The reported points achieve it, each tagged with its facility's index.
     const auto o = optima_of(f);
     ASSERT_EQ(o.size(), 2u);
-    // The reported points achieve the reported value, each tagged with its facility's index.
-    double at_points = 0.0;
-    for (int c = 0; c < 2; ++c)
-      at_points += l1_axis_cost(s, v, c, o[0].coordinate(c), o[1].coordinate(c));
-    EXPECT_NEAR(at_points, value, 1e-7) << "v = " << v;
+    EXPECT_NEAR(objective_at(s, v, l1, false, o), value, 1e-7) << "v = " << v;
     EXPECT_EQ(o[0].weight(0), 0.0);
     EXPECT_EQ(o[1].weight(0), 1.0);
   }
@@ -108,29 +111,8 @@ TEST(N_linf_max, matches_a_bisection_on_the_bound) {
     // The reported points achieve it.
     const auto o = optima_of(f);
     ASSERT_EQ(o.size(), 2u);
-    auto d = [](const location& a, double x, double y) {
-      return linf(a.coordinate(0) - x, a.coordinate(1) - y);
-    };
-    double worst = v * d(o[0], o[1].coordinate(0), o[1].coordinate(1));
-    for (int j = 0; j < 2; ++j)
-      for (const location& l : s)
-        worst = std::max(worst, l.weight(j) * d(o[j], l.coordinate(0), l.coordinate(1)));
-    EXPECT_NEAR(worst, value, 1e-7) << "v = " << v;
+    EXPECT_NEAR(objective_at(s, v, linf, true, o), value, 1e-7) << "v = " << v;
   }
-}
-
-TEST(N_l1_max, a_strong_tie_joins_the_facilities) {
-  // Joined, the two would form one center of (0, 0) at weight 1 and (6, 2) at weight 3, value 6.
-  // A gap g <= z / 1e6 between them helps a little: z + g + z / 3 >= 8, the l1 distance, so
-  // z = 8 / (4 / 3 + 1e-6).
-  facilities f = problem({site(0, 0, {1, 0.5}), site(6, 2, {0.5, 3})});
-  const double value = f.N_l1_max(2, tie(1e6), true);
-  EXPECT_NEAR(value, 8.0 / (4.0 / 3.0 + 1e-6), 1e-9);
-  const auto o = optima_of(f);
-  ASSERT_EQ(o.size(), 2u);
-  const double gap =
-      l1(o[0].coordinate(0) - o[1].coordinate(0), o[0].coordinate(1) - o[1].coordinate(1));
-  EXPECT_LE(1e6 * gap, value + 1e-6);
 }
 
 TEST(N_l2sqr_sum, the_gradient_vanishes_at_the_result) {

@@ -60,20 +60,15 @@ inline distance lp(double p) {
   };
 }
 
-inline double sum_objective(const facilities& f, const distance& d, double x, double y) {
+// The weighted distances of column 0 from (x, y), summed (a median) or the largest (a center).
+inline double objective_of(const facilities& f, const distance& d, double x, double y,
+                           bool is_max = false) {
   double s = 0.0;
-  for (const location& l : f) s += l.weight(0) * d(l.coordinate(0) - x, l.coordinate(1) - y);
+  for (const location& l : f) {
+    const double term = l.weight(0) * d(l.coordinate(0) - x, l.coordinate(1) - y);
+    s = is_max ? std::max(s, term) : s + term;
+  }
   return s;
 }
-
-inline double max_objective(const facilities& f, const distance& d, double x, double y) {
-  double s = 0.0;
-  for (const location& l : f)
-    s = std::max(s, l.weight(0) * d(l.coordinate(0) - x, l.coordinate(1) - y));
-  return s;
-}
-
-inline double x_of(const location& l) { return l.coordinate(0); }
-inline double y_of(const location& l) { return l.coordinate(1); }
 
 }  // namespace mero::testing

@@ -13,8 +13,7 @@ TEST(linf_max, hand_computed_centers) {
 
   facilities one_place = problem({at(1, 2, 0), at(1, 2, 5), at(1, 2, 7)});
   EXPECT_DOUBLE_EQ(one_place.linf_max(true), 0.0);
-  // The first location with a weight other than 0.0.
-  EXPECT_EQ(one_place.optima(), std::list<location>{at(1, 2, 5)});
+  EXPECT_EQ(one_place.optima(), std::list<location>{at(1, 2, 5)});  // the first weight not 0
 }
 
 }  // namespace

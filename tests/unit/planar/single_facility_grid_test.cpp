@@ -48,15 +48,13 @@ double grid_minimum(const std::function<double(double, double)>& objective, doub
 
 void expect_grid_optimum(const grid_case& c, facilities& f) {
   const double value = c.solve(f);
-  auto objective = [&](double x, double y) {
-    return c.is_max ? max_objective(f, c.d, x, y) : sum_objective(f, c.d, x, y);
-  };
+  auto objective = [&](double x, double y) { return objective_of(f, c.d, x, y, c.is_max); };
   std::vector<std::pair<double, double>> points;
   double cx = 0, cy = 0;
   for (const location& o : f.optima_view()) {
-    points.emplace_back(x_of(o), y_of(o));
-    cx += x_of(o) / f.optima_view().size();
-    cy += y_of(o) / f.optima_view().size();
+    points.emplace_back(o.coordinate(0), o.coordinate(1));
+    cx += o.coordinate(0) / f.optima_view().size();
+    cy += o.coordinate(1) / f.optima_view().size();
   }
   ASSERT_FALSE(points.empty());
   if (points.size() > 1) points.emplace_back(cx, cy);
