@@ -59,3 +59,11 @@ A number without a solver (the graph medians with -r) runs nothing: empty classi
   0
   begin {polygonlist}
   end {polygonlist}
+
+Coordinates near the largest double overflow inside a solver: the run ends with a message, not
+with a report of inf and nan.
+
+  $ printf 'begin {location} [2,1]\n1e308 1e308 1\n-1e308 -1e308 1\nend {location}\n' > huge.loc
+  $ $MERO -a l2sqr_sum -l huge.loc --output=nowindowed
+  MERO error: The result is not finite: coordinates or weights are too large. ErrorCode: 1013
+  [1]
