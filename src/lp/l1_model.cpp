@@ -1,22 +1,16 @@
 #include "lp/l1_model.h"
 
-#include <lpsolve/lp_lib.h>
-
 #include <cassert>
-#include <memory>
+
+#include "lp/lp_model.h"
 
 namespace mero {
 
 namespace {
 
-// Coordinates are free; lp_solve's columns are non-negative unless told otherwise.
-constexpr double k_free_lower = -900000000000000.0;
-
-using model_ptr = std::unique_ptr<lprec, decltype(&delete_lp)>;
-
 // Number of the row of pair (j, k), 1 <= j < k <= n, behind the location rows.
 int pair_row(int n, int m, int j, int k) {
-  const int before = (j - 1) * n - (j - 1) * j / 2;  // pairs whose first index is below j
+  const int before = lp_model::pairs_before(n, j);
   return n * m + before + (k - j);
 }
 
@@ -61,12 +55,11 @@ double solve_l1_model(int n, int m, int equal_rows, const std::vector<double>& o
   const int columns = n + 2 * rows;
   assert(static_cast<int>(objective.size()) >= columns + 1);
   assert(static_cast<int>(rhs_x.size()) >= rows + 1 && static_cast<int>(rhs_y.size()) >= rows + 1);
-  model_ptr lp(make_lp(rows, columns), &delete_lp);
-  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  const lp_model::model_ptr lp = lp_model::make_model(rows, columns);
   set_obj_fn(lp.get(), const_cast<double*>(objective.data()));
   fill_columns(lp.get(), n, m);
   for (int row = 1; row <= equal_rows && row <= rows; ++row) set_constr_type(lp.get(), row, EQ);
-  for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, k_free_lower);
+  for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, lp_model::free_lower);
   double sum = solve_axis(lp.get(), n, rhs_x, x);
   sum += solve_axis(lp.get(), n, rhs_y, y);
   return sum;

@@ -1,22 +1,16 @@
 #include "lp/linf_model.h"
 
-#include <lpsolve/lp_lib.h>
-
 #include <cassert>
-#include <memory>
+
+#include "lp/lp_model.h"
 
 namespace mero {
 
 namespace {
 
-// Coordinates are free; lp_solve's columns are non-negative unless told otherwise.
-constexpr double k_free_lower = -900000000000000.0;
-
-using model_ptr = std::unique_ptr<lprec, decltype(&delete_lp)>;
-
 // First of the two rows of pair (j, k), 1 <= j < k <= n.
 int pair_row(int n, int facility_rows, int j, int k) {
-  const int before = (j - 1) * n - (j - 1) * j / 2;  // pairs whose first index is below j
+  const int before = lp_model::pairs_before(n, j);
   return facility_rows + 2 * (before + (k - j) - 1) + 1;
 }
 
@@ -55,15 +49,14 @@ double solve_linf_model(int n, int rows_per_facility, int m, const std::vector<d
   const int rows = n * rows_per_facility + n * (n - 1);
   assert(static_cast<int>(rhs_x.size()) > rows && static_cast<int>(rhs_y.size()) > rows);
   assert(static_cast<int>(z_coefficients.size()) > rows);
-  model_ptr lp(make_lp(rows, n + 1), &delete_lp);
-  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  const lp_model::model_ptr lp = lp_model::make_model(rows, n + 1);
   std::vector<double> objective(n + 2, 0.0);
   objective[n + 1] = 1.0;
   set_obj_fn(lp.get(), objective.data());
   fill_columns(lp.get(), n, m, z_coefficients);
   set_rh_vec(lp.get(), const_cast<double*>(rhs_x.data()));  // lp_solve only reads the array
   for (int row = 1; row <= rows; ++row) set_constr_type(lp.get(), row, GE);
-  for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, k_free_lower);
+  for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, lp_model::free_lower);
   solve(lp.get());
   double value = lp->best_solution[0];
   x.assign(n, 0.0);

@@ -1,16 +1,13 @@
 #include "lp/n_median_model.h"
 
-#include <lpsolve/lp_lib.h>
-
 #include <cassert>
 #include <cmath>
-#include <memory>
+
+#include "lp/lp_model.h"
 
 namespace mero {
 
 namespace {
-
-using model_ptr = std::unique_ptr<lprec, decltype(&delete_lp)>;
 
 // Row that forbids median i (1-based) to serve node j unless it is open.
 int link_row(int c, int i, int j) {
@@ -44,8 +41,7 @@ double solve_n_median_model(int nodes, int columns, int p, const std::vector<dou
   assert(columns == c * c);
   assert(static_cast<int>(objective.size()) > columns);
   const int rows = columns + 1;
-  model_ptr lp(make_lp(rows, columns), &delete_lp);
-  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  const lp_model::model_ptr lp = lp_model::make_model(rows, columns);
   set_obj_fn(lp.get(), const_cast<double*>(objective.data()));  // lp_solve only reads it
   for (int col = 1; col <= columns; ++col) {
     set_int(lp.get(), col, TRUE);

@@ -1,9 +1,8 @@
 #include "lp/two_variable_model.h"
 
-#include <lpsolve/lp_lib.h>
-
 #include <cassert>
-#include <memory>
+
+#include "lp/lp_model.h"
 
 namespace mero {
 
@@ -14,8 +13,7 @@ std::array<double, 3> solve_two_variable_model(
   assert(static_cast<int>(rhs.size()) > rows && static_cast<int>(a1.size()) > rows &&
          static_cast<int>(a2.size()) > rows);
   assert(lower.size() > 2 && upper.size() > 2 && objective.size() > 2);
-  std::unique_ptr<lprec, decltype(&delete_lp)> lp(make_lp(rows, 2), &delete_lp);
-  set_verbose(lp.get(), NEUTRAL);  // lp_solve 5.5 would otherwise print its run log
+  const lp_model::model_ptr lp = lp_model::make_model(rows, 2);
   // lp_solve only reads these arrays.
   set_obj_fn(lp.get(), const_cast<double*>(objective.data()));
   set_rh_vec(lp.get(), const_cast<double*>(rhs.data()));
