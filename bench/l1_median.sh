@@ -2,26 +2,11 @@
 # Times `mero -a l1_sum` as a whole process (reading included) on N random locations, for
 # N = 10^4, 10^5 and 10^6. The cost should grow as n log n; 10^6 locations should take under 2 s.
 # Uses the program in $MERO, else bin/mero of the repository (built by `make build`).
-set -euo pipefail
-repo="$(cd "$(dirname "$0")/.." && pwd)"
-mero="${MERO:-$repo/bin/mero}"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-
-# Random coordinates with three decimals in [0, 1000) and integer weights 1..100, named.
-generate() {
-  awk -v n="$1" -v seed="$1" 'BEGIN {
-    srand(seed)
-    print "begin {location} [2,1]"
-    for (i = 1; i <= n; i++)
-      printf "%.3f %.3f %d [p%d]\n", rand() * 1000, rand() * 1000, 1 + int(rand() * 100), i
-    print "end {location}"
-  }'
-}
+source "$(dirname "$0")/lib/common.sh"
 
 printf '%-9s %9s %9s %11s\n' "n" "wall s" "user s" "max RSS kB"
 for n in 10000 100000 1000000; do
-  generate "$n" >"$work/in.loc"
+  random_locations "$n" 0 1 >"$work/in.loc"
   best=""
   for run in 1 2 3; do
     /usr/bin/time -f '%e %U %M' -o "$work/time" \

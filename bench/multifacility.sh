@@ -5,11 +5,7 @@
 #   N_l1_sum_v1: n m + n (n - 1) / 2 rows, n + 2 rows columns, solved once per axis;
 #   N_linf_max:  2 n m + n (n - 1) rows, n + 1 columns, solved once per axis.
 # Uses the program in $MERO, else bin/mero of the repository (built by `make build`).
-set -euo pipefail
-repo="$(cd "$(dirname "$0")/.." && pwd)"
-mero="${MERO:-$repo/bin/mero}"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
+source "$(dirname "$0")/lib/common.sh"
 
 # m random locations in [0, 1000)^2 with n integer weights 1..100 each (none zero, as
 # N_linf_max divides by every weight).

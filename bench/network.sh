@@ -5,12 +5,8 @@
 # 900-node graph should take under 30 s. Uses the program in $MERO, else bin/mero of the
 # repository (build it as a Release tree for figures worth recording). The instances are looked
 # for in $PMED, else ../shared/benchmarks/orlib/pmed beside the repository.
-set -euo pipefail
-repo="$(cd "$(dirname "$0")/.." && pwd)"
-mero="${MERO:-$repo/bin/mero}"
+source "$(dirname "$0")/lib/common.sh"
 pmed="${PMED:-$repo/../shared/benchmarks/orlib/pmed}"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
 
 printf '%-7s %5s %6s  %-18s %9s %11s  %s\n' instance n edges algorithm "wall s" "max RSS kB" value
 for k in 1 6 11 16 21 26 31 35 38; do

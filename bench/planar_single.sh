@@ -4,25 +4,9 @@
 # under 3 s. lp_sum tests every location before it iterates, O(n^2): a run is stopped after LIMIT
 # seconds (default 300) and shown as "> LIMIT".
 # Uses the program in $MERO, else bin/mero of the repository.
-set -euo pipefail
-repo="$(cd "$(dirname "$0")/.." && pwd)"
-mero="${MERO:-$repo/bin/mero}"
+source "$(dirname "$0")/lib/common.sh"
 limit="${LIMIT:-300}"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
 export tmp="$work"
-
-# Uniform coordinates with three decimals in [0, 1000); weight 1 (l2_v1_max is the equal-weight
-# problem), or integer weights 1..100 for the weighted methods.
-generate() {
-  awk -v n="$1" -v seed="$1" -v equal="$2" 'BEGIN {
-    srand(seed)
-    print "begin {location} [2,1]"
-    for (i = 1; i <= n; i++)
-      printf "%.3f %.3f %d\n", rand() * 1000, rand() * 1000, equal ? 1 : 1 + int(rand() * 100)
-    print "end {location}"
-  }'
-}
 
 run() {  # algorithm, file; prints "wall user rss" or "> limit"
   local args=(-a "$1" -l "$2" --output=nowindowed,file="$work/out")
@@ -38,8 +22,8 @@ run() {  # algorithm, file; prints "wall user rss" or "> limit"
 
 printf '%-10s %-9s %9s %9s %11s\n' algorithm n "wall s" "user s" "max RSS kB"
 for n in 10000 100000 1000000; do
-  generate "$n" 0 >"$work/weighted.loc"
-  generate "$n" 1 >"$work/equal.loc"
+  random_locations "$n" 0 0 >"$work/weighted.loc"
+  random_locations "$n" 1 0 >"$work/equal.loc"
   for algorithm in l2_sum lp_sum linf_max l2_v1_max; do
     file="$work/weighted.loc"
     [ "$algorithm" = l2_v1_max ] && file="$work/equal.loc"
