@@ -42,6 +42,8 @@ void report_error(const std::string& text, int code, int status, bool window) {
   std::exit(status);  // a sink that returns from an error still ends the process
 }
 
+void report_error(const message& m) { report_error(m.text, m.code, 1, windowed_mode); }
+
 void report_message(const std::string& text, bool go_on, bool window) {
   deliver({report::kind::message, text, 0, 0, go_on, window});
 }

@@ -31,6 +31,18 @@ std::string console_line(const report& r);
 
 [[noreturn]] void report_error(const std::string& text, int code, int status = 1,
                                bool window = true);
+
+// A text the program reports with the code that names the place raising it. Each subsystem keeps
+// its messages in one table of these (src/<subsystem>/<subsystem>_messages.h), so that the code
+// that raises a message and the tests that expect it read the same words.
+struct message {
+  int code;
+  const char* text;
+};
+
+// Ends the process with status 1 through the error reporter, with the message's text and code;
+// the dialog face is shown when the run is windowed.
+[[noreturn]] void report_error(const message& m);
 void report_message(const std::string& text, bool go_on, bool window);
 void report_question(const std::string& text, int status, bool go_on, bool window);
 
