@@ -4,8 +4,8 @@
 #include <fstream>
 #include <ostream>
 
+#include "discrete/discrete_messages.h"
 #include "discrete/discrete_scan.h"
-#include "discrete/discrete_texts.h"
 #include "kernel/reporters.h"
 
 namespace mero {
@@ -37,8 +37,7 @@ void write_block(std::ostream& out, const std::list<location>& points,
 void discrete_problem::read(std::istream& in) {
   discrete_scan scan;
   scan.start(in);
-  if (scan_discrete_file(scan) == 1)
-    report_error(scan.message, discrete_text::syntax_code, 1, windowed_mode);
+  scan_or_report(scan_discrete_file, scan, discrete_messages::syntax_default.code);
 
   cost = cost_matrix(scan);
   demand = std::move(scan.demand);
@@ -75,18 +74,14 @@ void discrete_problem::write(std::ostream& out) const {
 }
 
 void read_discrete_file(const std::string& path, discrete_problem& problem) {
-  std::ifstream in;
-  if (!std::filesystem::is_directory(path)) in.open(path);
-  if (!in.is_open())
-    report_error(discrete_text::reader_open, discrete_text::reader_open_code, 1, windowed_mode);
+  std::ifstream in = open_scan_input(path, discrete_messages::reader_open);
   problem.read(in);
 }
 
 void write_discrete_file(const std::string& path, const discrete_problem& problem) {
   std::ofstream out;
   if (!std::filesystem::is_directory(path)) out.open(path);
-  if (!out.is_open())
-    report_error(discrete_text::writer_open, discrete_text::writer_open_code, 1, windowed_mode);
+  if (!out.is_open()) report_error(discrete_messages::writer_open);
   problem.write(out);
 }
 

@@ -3,19 +3,19 @@
 #include <vector>
 
 #include "discrete/cost_table.h"
-#include "discrete/discrete_texts.h"
+#include "discrete/discrete_messages.h"
 #include "kernel/reporters.h"
 
 namespace mero {
 
 cost_table make_cost_table(const discrete_problem& problem) {
   if (problem.demand.empty() || problem.supply.empty())
-    report_error(discrete_text::empty_problem, discrete_text::empty_problem_code, 1, windowed_mode);
+    report_error(discrete_messages::empty_problem);
   cost_table t;
   t.m = static_cast<int>(problem.demand.size());
   t.n = static_cast<int>(problem.supply.size());
   if (problem.cost.dim1() != t.m || problem.cost.dim2() != t.n)
-    report_error(discrete_text::cost_shape, discrete_text::cost_shape_code, 1, windowed_mode);
+    report_error(discrete_messages::cost_shape);
   t.c.reserve(static_cast<std::size_t>(t.m) * t.n);
   for (int i = 0; i < t.m; ++i)
     for (int j = 0; j < t.n; ++j) t.c.push_back(problem.cost(i, j));

@@ -1,13 +1,13 @@
 #include "discrete/discrete_scan.h"
 
-#include "discrete/discrete_texts.h"
+#include "discrete/discrete_messages.h"
 
 namespace mero {
 
 void discrete_scan::start(std::istream& input) {
   // Everything back to its initial value, then a fresh scanner state on input.
   *this = discrete_scan();
-  reset(input, discrete_text::syntax_default);
+  reset(input, discrete_messages::syntax_default);
 }
 
 void discrete_scan::add_name(std::string name) {
@@ -36,8 +36,9 @@ int discrete_scan::columns() const {
 int discrete_scan::complete_row(int line) {
   if (row_entries == 0) return 0;
   if (rows >= static_cast<int>(demand.size()))
-    return scan_stop(*this, discrete_text::matrix_too_many_lines, {});
-  if (row_entries != columns()) return scan_stop(*this, discrete_text::matrix_line_length, {line});
+    return scan_stop(*this, discrete_messages::matrix_too_many_lines, {});
+  if (row_entries != columns())
+    return scan_stop(*this, discrete_messages::matrix_line_length, {line});
   ++rows;
   row_entries = 0;
   return 0;
@@ -46,7 +47,7 @@ int discrete_scan::complete_row(int line) {
 int discrete_scan::end_of_matrix() {
   if (complete_row(line)) return 1;
   if (rows != static_cast<int>(demand.size()))
-    return scan_stop(*this, discrete_text::matrix_too_few_lines, {});
+    return scan_stop(*this, discrete_messages::matrix_too_few_lines, {});
   return 0;
 }
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "discrete/cost_table.h"
+#include "discrete/discrete_messages.h"
 #include "discrete/discrete_problem.h"
-#include "discrete/discrete_texts.h"
 #include "kernel/reporters.h"
 
 namespace mero {
@@ -284,9 +284,9 @@ bool dual_ascent_solver::branch(const node_problem& parent, node_state& s, bool 
 void check_dualoc_range(const cost_table& t) {
   auto in_range = [](double x) { return x >= 0.0 && x <= infinite_cost; };
   for (double x : t.c)
-    if (!in_range(x)) report_error(discrete_text::dualoc_range, discrete_text::dualoc_range_code);
+    if (!in_range(x)) report_error(discrete_messages::dualoc_range);
   for (double x : t.f)
-    if (!in_range(x)) report_error(discrete_text::dualoc_range, discrete_text::dualoc_range_code);
+    if (!in_range(x)) report_error(discrete_messages::dualoc_range);
 }
 
 }  // namespace
@@ -305,8 +305,7 @@ double discrete_problem::UFL_Dualoc() {
   node_state closing = s;
   const bool closed_ok = solver.branch(root, closing, true);
   const bool opened_ok = solver.branch(root, s, false);
-  if (!closed_ok && !opened_ok)
-    report_error(discrete_text::no_solution, discrete_text::no_solution_code);
+  if (!closed_ok && !opened_ok) report_error(discrete_messages::no_solution);
   const node_state& best = closed_ok && (!opened_ok || closing.z <= s.z) ? closing : s;
 
   std::vector<int> open;

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "driver/driver_messages.h"
 #include "driver/front_end.h"
 #include "driver/lpinfo.h"
 #include "driver/problem_run.h"
@@ -12,6 +13,8 @@
 namespace mero {
 
 namespace {
+
+namespace text = driver_messages;
 
 // The options that take a value, by their letter.
 constexpr std::string_view value_letters = "algrmdpn";
@@ -28,9 +31,6 @@ struct parser {
   bool have_a = false, have_main = false, have_r = false, have_m = false;
   bool have_p = false, have_n = false, have_gauge = false;
 
-  [[noreturn]] void fail(const std::string& text, int code) const {
-    report_error(text, code, 1, request.windowed);
-  }
 
   void set_windowed(bool on) {
     request.windowed = on;
@@ -49,12 +49,12 @@ void parser::parse_output(std::string s, std::size_t& i) {
   s.erase(0, 8);
   if (s.empty()) {
     if (i + 1 >= args.size() || args[i + 1].starts_with('-'))
-      fail("Missing value for option --output.", 1003);
+      report_error(text::missing_output_value);
     s = args[++i];
   } else if (s[0] == ':' || s[0] == '=') {
     s.erase(0, 1);
   } else {
-    fail("Option " + whole + " is not a valid --output option.", 1004);
+    report_error(text::bad_output_option, {whole});
   }
   std::size_t start = 0;
   while (start <= s.size()) {
@@ -129,22 +129,22 @@ chain parser::choose_chain() const {
 
 void parser::look_up() {
   if (!have_a || !have_main)
-    fail("You have to specify an algorithm and a location file.", 1006);
+    report_error(text::missing_algorithm);
   chain in = choose_chain();
   request.algorithm = find_algorithm(in, algorithm);
   if (request.algorithm == no_algorithm) {
     switch (in) {
-      case chain::A: fail("Illegal algorithm or missing data.", 1007);
-      case chain::N: fail("Illegal algorithm or missing data.", 1008);
-      case chain::R: fail("Illegal algorithm or missing data.", 1009);
-      case chain::G: fail("Illegal algorithm or missing data.", 1010);
+      case chain::A: report_error(text::illegal_algorithm_a);
+      case chain::N: report_error(text::illegal_algorithm_n);
+      case chain::R: report_error(text::illegal_algorithm_r);
+      case chain::G: report_error(text::illegal_algorithm_g);
       case chain::RG: print_usage_and_exit();  // an unknown name here reports nothing
     }
   }
-  if (needs_p(request.algorithm) && !have_p) fail("Missing p-value for lp-algorithm.", 1011);
+  if (needs_p(request.algorithm) && !have_p) report_error(text::missing_p);
   // The N-center numbers are left out of this check on purpose: they read N all the same.
   if (needs_n(request.algorithm) && !have_n)
-    fail("Missing number of new facilities for algorithms on graphs.", 1012);
+    report_error(text::missing_n);
 }
 
 }  // namespace
@@ -158,7 +158,7 @@ run_request parse_command_line(const std::vector<std::string>& args) {
     if (s.size() > 2 && takes_value(s[1]) && (s[2] == ':' || s[2] == '=')) s.erase(2, 1);
     // -a x means -ax, unless x looks like an option; at the last argument the value is empty.
     if (s.size() == 2 && s[0] == '-' && takes_value(s[1]) && i + 1 < args.size()) {
-      if (args[i + 1].starts_with('-')) p.fail("Missing value for option " + s, 1002);
+      if (args[i + 1].starts_with('-')) report_error(text::missing_value, {s});
       s += args[++i];
     }
     if (s == "-help" || s == "--help" || s == "-?" || s == "-h") print_usage_and_exit();
@@ -168,7 +168,7 @@ run_request parse_command_line(const std::vector<std::string>& args) {
       continue;
     }
     if (!p.accept(opt, s.substr(std::min<std::size_t>(2, s.size()))))
-      p.fail("Unrecognized option " + s, 1005);
+      report_error(text::unrecognized_option, {s});
   }
   p.look_up();
   return p.request;

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "driver/driver_messages.h"
 #include "driver/family.h"
 #include "driver/run_context.h"
 #include "kernel/error_handler.h"
@@ -56,12 +57,10 @@ bool all_finite(const std::list<location>& list) {
   return true;
 }
 
-// Coordinates or weights near the largest double overflow inside the solvers; such a run ends
-// with a message rather than a report of inf and nan.
+// Coordinates or weights near the largest double overflow inside the solvers.
 void check_finite(const run_context& ctx, double value) {
   if (std::isfinite(value) && all_finite(ctx.results) && all_finite(ctx.situations)) return;
-  report_error("The result is not finite: coordinates or weights are too large.", 1013, 1,
-               ctx.request.windowed);
+  report_error(driver_messages::result_not_finite);
 }
 
 // A number without a case runs nothing: its label stays empty and the value written is 0.
@@ -126,15 +125,14 @@ void run_problem(const run_request& request) {
   if (!request.output_file.empty()) {
     file.open(request.output_file);
     if (!file)
-      report_error("Cannot open " + request.output_file + " for output", 1001, 1, request.windowed);
+      report_error(driver_messages::output_unwritable, {request.output_file});
   }
   std::ostream& out = request.output_file.empty() ? std::cout : file;
 
   const problem_kind kind = kind_of(request);
   load(ctx, kind);
   if (ctx.problem.size() == 1)
-    report_message("There is only one location given, so this location is optimal", true,
-                   request.windowed);
+    report_message(driver_messages::one_location, true);
   ctx.objective.resize(objective_size(ctx, kind));
   solve(ctx);
   show_window(ctx);

@@ -42,7 +42,13 @@ void report_error(const std::string& text, int code, int status, bool window) {
   std::exit(status);  // a sink that returns from an error still ends the process
 }
 
-void report_error(const message& m) { report_error(m.text, m.code, 1, windowed_mode); }
+void report_error(const message& m, std::initializer_list<message_arg> args) {
+  report_error(format_message(m.text, args), m.code, 1, windowed_mode);
+}
+
+void report_message(const message& m, bool go_on, std::initializer_list<message_arg> args) {
+  report_message(format_message(m.text, args), go_on, windowed_mode);
+}
 
 void report_message(const std::string& text, bool go_on, bool window) {
   deliver({report::kind::message, text, 0, 0, go_on, window});
@@ -50,6 +56,10 @@ void report_message(const std::string& text, bool go_on, bool window) {
 
 void report_question(const std::string& text, int status, bool go_on, bool window) {
   deliver({report::kind::question, text, 0, status, go_on, window});
+}
+
+void report_question(const message& m, int status, bool go_on) {
+  report_question(m.text, status, go_on, windowed_mode);
 }
 
 void end_process(int status) {

@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "kernel/message.h"
+
 namespace mero {
 
 // True from the start of the program; --output=nowindowed clears it.
@@ -32,19 +34,15 @@ std::string console_line(const report& r);
 [[noreturn]] void report_error(const std::string& text, int code, int status = 1,
                                bool window = true);
 
-// A text the program reports with the code that names the place raising it. Each subsystem keeps
-// its messages in one table of these (src/<subsystem>/<subsystem>_messages.h), so that the code
-// that raises a message and the tests that expect it read the same words.
-struct message {
-  int code;
-  const char* text;
-};
-
-// Ends the process with status 1 through the error reporter, with the message's text and code;
-// the dialog face is shown when the run is windowed.
-[[noreturn]] void report_error(const message& m);
+// Ends the process with status 1 through the error reporter, with the message's code and its
+// text (filled with args when it is a format); the dialog face is shown in a windowed run.
+[[noreturn]] void report_error(const message& m, std::initializer_list<message_arg> args = {});
+// A message that is not an error, with its text filled with args; see report_message.
+void report_message(const message& m, bool go_on, std::initializer_list<message_arg> args = {});
 void report_message(const std::string& text, bool go_on, bool window);
 void report_question(const std::string& text, int status, bool go_on, bool window);
+// A question with the message's text; see report_question.
+void report_question(const message& m, int status, bool go_on);
 
 // Ends the process with this status without a report (the usage text ends this way).
 [[noreturn]] void end_process(int status);

@@ -54,7 +54,7 @@ bool facilities::contains(const location& c) const {
 
 void facilities::remove(int i) {
   const int n = static_cast<int>(size());
-  if (i < 0 || i >= n) report_model_error(model_messages::remove_index);
+  if (i < 0 || i >= n) report_error(model_messages::remove_index);
   if (i == 0)
     pop_front();
   else if (i == n - 1)
@@ -80,7 +80,7 @@ std::string& facilities::refname(const location& item) {
     if (&l == &item) return *name;
     ++name;
   }
-  report_model_error(model_messages::foreign_item);
+  report_error(model_messages::foreign_item);
 }
 
 Loc_Vector facilities::weight_sums() const {
@@ -110,12 +110,12 @@ double facilities::objective(int p, const location& x, int w) const {
 }
 
 double facilities::objective(int p, int w) const {
-  if (optima_.empty()) report_model_error(model_messages::objective_unsolved);
+  if (optima_.empty()) report_error(model_messages::objective_unsolved);
   return objective(p, optima_.front(), w);
 }
 
 void facilities::write_optima(std::ostream& out) const {
-  if (optima_.empty()) report_model_error(model_messages::write_unsolved);
+  if (optima_.empty()) report_error(model_messages::write_unsolved);
   location::WriteAsPolygonList(out, optima_);
 }
 

@@ -94,7 +94,7 @@ double Loc_Vector::norm(int p) const {
 }
 
 Loc_Vector Loc_Vector::rotate(double angle) const {
-  if (size() != 2) report_model_error(model_messages::rotate_dimension);
+  if (size() != 2) report_error(model_messages::rotate_dimension);
   const double c = std::cos(angle);
   const double s = std::sin(angle);
   Loc_Vector r(2);

@@ -25,7 +25,7 @@ location::location(int dim, int weight_dim) : coordinates_(dim), weights_(weight
 location::location(const point& p) : coordinates_(2.0, p.xcoord(), p.ycoord()), weights_(1) {}
 
 location::operator point() const {
-  if (dim() != 2) report_model_error(model_messages::point_dimension);
+  if (dim() != 2) report_error(model_messages::point_dimension);
   return point(coordinates_[0], coordinates_[1]);
 }
 
@@ -70,34 +70,34 @@ bool location::operator==(const location& l) const {
 }
 
 double location::coordinate(int i) const {
-  if (i < 0 || i >= dim()) report_model_error(model_messages::coordinate_read);
+  if (i < 0 || i >= dim()) report_error(model_messages::coordinate_read);
   return coordinates_[i];
 }
 
 double& location::coordinate_ref(int i) {
-  if (i < 0 || i >= dim()) report_model_error(model_messages::coordinate_reference);
+  if (i < 0 || i >= dim()) report_error(model_messages::coordinate_reference);
   return coordinates_[i];
 }
 
 double location::weight(int i) const {
-  if (i < 0 || i >= weight_dim()) report_model_error(model_messages::weight_read);
+  if (i < 0 || i >= weight_dim()) report_error(model_messages::weight_read);
   return weights_[i];
 }
 
 double& location::weight_ref(int i) {
-  if (i < 0 || i >= weight_dim()) report_model_error(model_messages::weight_reference);
+  if (i < 0 || i >= weight_dim()) report_error(model_messages::weight_reference);
   return weights_[i];
 }
 
 location location::operator+(const location& l) const {
-  if (dim() != l.dim()) report_model_error(model_messages::incompatible_dimension);
+  if (dim() != l.dim()) report_error(model_messages::incompatible_dimension);
   location r(*this);
   r.coordinates_ += l.coordinates_;
   return r;
 }
 
 location location::operator-(const location& l) const {
-  if (dim() != l.dim()) report_model_error(model_messages::incompatible_dimension);
+  if (dim() != l.dim()) report_error(model_messages::incompatible_dimension);
   location r(*this);
   r.coordinates_ -= l.coordinates_;
   return r;
@@ -110,26 +110,26 @@ location location::operator*(double f) const {
 }
 
 location location::operator/(double f) const {
-  if (f == 0.0) report_model_error(model_messages::division_by_zero);
+  if (f == 0.0) report_error(model_messages::division_by_zero);
   location r(*this);
   r.coordinates_ /= f;
   return r;
 }
 
 double location::dot(const location& l) const {
-  if (dim() != l.dim()) report_model_error(model_messages::incompatible_dimension);
+  if (dim() != l.dim()) report_error(model_messages::incompatible_dimension);
   return coordinates_.dot(l.coordinates_);
 }
 
 double location::norm(int p) const {
   if (p >= 1 || p == -1) return coordinates_.norm(p);
-  report_model_error(model_messages::bad_norm);
+  report_error(model_messages::bad_norm);
 }
 
 double location::r_angle(const location& l) const {
   const double a = coordinates_.norm(2);
   const double b = l.coordinates_.norm(2);
-  if (a == 0.0 || b == 0.0) report_model_error(model_messages::zero_length);
+  if (a == 0.0 || b == 0.0) report_error(model_messages::zero_length);
   // Not clamped to [-1, 1]: rounding may push parallel vectors just outside and give NaN.
   return std::acos(coordinates_.dot(l.coordinates_) / (a * b));
 }
@@ -150,7 +150,7 @@ void location::WriteAsPolygonList(std::ostream& out, const std::list<location>& 
   out << "begin {polygonlist}\n";
   auto it = L.begin();
   while (it != L.end()) {
-    if (it->weight_dim() == 0) report_model_error(model_messages::not_a_polygon_list);
+    if (it->weight_dim() == 0) report_error(model_messages::not_a_polygon_list);
     auto next = std::next(it);
     if (next == L.end() || next->weight(0) != it->weight(0)) {
       write_point(out, *it);

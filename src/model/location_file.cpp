@@ -1,12 +1,10 @@
 #include "model/location_file.h"
 
-#include <filesystem>
 #include <fstream>
 #include <ostream>
 
 #include "kernel/error_handler.h"
 #include "kernel/reporters.h"
-#include "model/location_file_messages.h"
 #include "model/location_scan.h"
 #include "model/model_messages.h"
 
@@ -19,11 +17,9 @@ namespace {
 // Scans path as a file of the given type into scan; every failure ends the process through the
 // error reporter, shown as a dialog in a windowed run.
 void scan_file(const std::string& path, const char* file_type, location_scan& scan) {
-  std::ifstream in;
-  if (!std::filesystem::is_directory(path)) in.open(path);
-  if (!in.is_open()) report_error(text::cannot_open, text::cannot_open_code, 1, true);
+  std::ifstream in = open_scan_input(path, text::cannot_open);
   scan.start(in, file_type);
-  if (scan_location_file(scan) == 1) report_error(scan.message, text::syntax_error_code, 1, true);
+  scan_or_report(scan_location_file, scan, text::syntax_error.code);
 }
 
 void take_locations(location_scan& scan, facilities& problem) {
@@ -34,8 +30,7 @@ void take_locations(location_scan& scan, facilities& problem) {
 // A name with a bracket could not be read back; the writer stops there with a message.
 void check_name(const std::string& name) {
   if (name.find_first_of("[]") != std::string::npos)
-    report_message(text::illegal_brackets_head + name + text::illegal_brackets_tail, false,
-                   windowed_mode);
+    report_message(text::illegal_brackets, false, {name});
 }
 
 }  // namespace
@@ -71,7 +66,7 @@ void write_locations(std::ostream& out, const facilities& problem) {
 void write_locations(const std::string& path, const facilities& problem) {
   if (problem.empty()) empty_list_error(model_messages::empty_list);
   std::ofstream out(path);
-  if (!out) report_error(text::writer_cannot_open, text::writer_cannot_open_code, 1, windowed_mode);
+  if (!out) report_error(text::writer_cannot_open);
   write_locations(out, problem);
 }
 

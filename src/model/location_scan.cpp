@@ -1,6 +1,6 @@
 #include "model/location_scan.h"
 
-#include "model/location_file_messages.h"
+#include "model/model_messages.h"
 
 namespace mero {
 

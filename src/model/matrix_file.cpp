@@ -7,25 +7,24 @@
 namespace mero {
 
 void matrix_scan::start(std::istream& input) {
-  reset(input, matrix_file_texts::syntax_error);
+  reset(input, matrix_file_messages::syntax_error);
   matrix_dim = 0;
   entries.clear();
   counter = 0;
 }
 
 matrix read_matrix(std::istream& in, const std::list<location>& locations) {
-  namespace texts = matrix_file_texts;
-  if (!in) report_error(texts::cannot_open, texts::open_code, 1, true);
+  namespace texts = matrix_file_messages;
+  if (!in) report_error(texts::cannot_open);
   matrix_scan scan;
   scan.start(in);
-  if (scan_matrix_file(scan) == 1) report_error(scan.message, texts::syntax_code, 1, true);
+  scan_or_report(scan_matrix_file, scan, texts::syntax_error.code);
   if (locations.empty()) empty_list_error(model_messages::empty_list);
   const int n = locations.front().weight_dim();
   const std::size_t needed = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
   if (scan.entries.size() < needed) {
     const int have = static_cast<int>(scan.entries.size());
-    report_error(scan_format(texts::too_few_entries, {have, n * n, n, n}), texts::syntax_code, 1,
-                 true);
+    report_error(texts::too_few_entries, {have, n * n, n, n});
   }
   // Row by row in file order; numbers beyond n * n are left over.
   matrix v(n, n);

@@ -22,29 +22,6 @@
 
 namespace mero {
 
-// The reader's failures and the scanner's messages (printf-like formats for scan_format).
-namespace matrix_file_texts {
-inline constexpr int open_code = 1510;
-inline constexpr const char* cannot_open = "Can't open file !";
-inline constexpr int syntax_code = 1511;
-inline constexpr const char* syntax_error = "Syntaxerror in matrix file!";
-
-inline constexpr const char* dimension_too_small = "Dimension too small in matrix file at line %d.";
-inline constexpr const char* dimension_expected =
-    "Dimension expected in matrix file at line %d, found \"%s%%s\" instead.";
-// The matrix scanner shares this text with the location file, file name and all.
-inline constexpr const char* illegal_linebreak = "Illegal linebreak in location file at line %d.";
-inline constexpr const char* closing_bracket_expected =
-    "Closing bracket expected in matrix file at line %d, found \"%s%%s\" instead.";
-inline constexpr const char* entries_do_not_match =
-    "Number of Entries in matrix-file line %d does not match dimension.";
-inline constexpr const char* entry_expected =
-    "Entry #%d expected in matrix file at line %d, found \"%s%%s\" instead.";
-// Not a scanner message: the file ran out of numbers while the n by n matrix was built.
-inline constexpr const char* too_few_entries =
-    "Matrix file holds %d entries, fewer than the %d of a %d by %d matrix.";
-}  // namespace matrix_file_texts
-
 // What the matrix scanner fills.
 struct matrix_scan : scan_state {
   int matrix_dim = 0;           // from the header; 2 for a `begin {location}` header

@@ -2,54 +2,29 @@
 
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 namespace mero {
 
-void scan_state::reset(std::istream& input, std::string default_message) {
+void scan_state::reset(std::istream& input, const mero::message& default_message) {
   in = &input;
   line = 1;
   skip_next_newline = false;
   comment_return = 0;
-  message = std::move(default_message);
+  message = default_message.text;
   tail_at = std::string::npos;
 }
 
-std::string scan_format(std::string_view format, std::initializer_list<scan_arg> args,
-                        std::size_t* tail_at) {
-  std::string out;
-  auto arg = args.begin();
-  for (std::size_t i = 0; i < format.size(); ++i) {
-    const char c = format[i];
-    const char next = i + 1 < format.size() ? format[i + 1] : '\0';
-    if (c != '%' || next == '\0') {
-      out += c;
-    } else if (next == '%') {
-      // "%%s" marks the place of the rest of the line; any other "%%" is a plain percent sign.
-      if (i + 2 < format.size() && format[i + 2] == 's' && tail_at) {
-        *tail_at = out.size();
-        i += 2;
-      } else {
-        out += '%';
-        ++i;
-      }
-    } else {
-      if (arg != args.end()) out += (arg++)->text;
-      ++i;
-    }
-  }
-  return out;
-}
-
-int scan_stop(scan_state& s, std::string_view format, std::initializer_list<scan_arg> args) {
-  s.message = scan_format(format, args);
+int scan_stop(scan_state& s, const message& format, std::initializer_list<message_arg> args) {
+  s.message = format_message(format.text, args);
   s.tail_at = std::string::npos;
   return 1;
 }
 
-void scan_fail(scan_state& s, std::string_view format, std::initializer_list<scan_arg> args) {
+void scan_fail(scan_state& s, const message& format, std::initializer_list<message_arg> args) {
   s.tail_at = std::string::npos;
-  s.message = scan_format(format, args, &s.tail_at);
+  s.message = format_message(format.text, args, &s.tail_at);
 }
 
 int scan_finish_tail(scan_state& s, std::string_view rest) {
@@ -76,6 +51,14 @@ std::size_t scan_read(std::istream& in, char* buffer, std::size_t max) {
 
 void scan_echo(const char* text, std::size_t length) {
   std::cout.write(text, static_cast<std::streamsize>(length));
+}
+
+std::ifstream open_scan_input(const std::string& path, const message& cannot_open) {
+  std::ifstream in;
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(path, ignored)) in.open(path);
+  if (!in.is_open()) report_error(cannot_open);
+  return in;
 }
 
 double scan_real(const char* text) { return std::strtod(text, nullptr); }

@@ -25,15 +25,24 @@
 //   <ERROR_TAIL>[^\r\n]+        return mero::scan_finish_tail(*yyextra, yytext);
 //   <ERROR_TAIL>[\r\n]          return mero::scan_finish_tail(*yyextra, "");
 //
+// A rule that finds the wrong text fails with SCAN_FAIL(format, {args}): the message waits for
+// the rest of the line, which the ERROR_TAIL rules add. Below the rules, the scanner's entry is
+// one line: return mero::run_scanner({<format>_yylex_init_extra, <format>_yylex,
+// <format>_yylex_destroy}, scan). A reader opens its file with open_scan_input, starts its state
+// on the stream and runs the entry through scan_or_report, so that all formats fail alike.
+//
 // A number is `real`, a sign, digits, an optional point with digits and an optional exponent; it
 // cannot start with a point. scan_real converts it with the C rules of atof.
 // clang-format on
 
 #include <cstddef>
+#include <fstream>
 #include <initializer_list>
-#include <iosfwd>
 #include <string>
 #include <string_view>
+
+#include "kernel/message.h"
+#include "kernel/reporters.h"
 
 namespace mero {
 
@@ -46,28 +55,22 @@ struct scan_state {
   std::size_t tail_at = std::string::npos;  // where the rest of the line goes into message
 
   // Back to the state of a fresh read, with this message as the default.
-  void reset(std::istream& input, std::string default_message);
+  void reset(std::istream& input, const mero::message& default_message);
 };
 
-// One argument of a message format: %d takes an integer, %s a text.
-struct scan_arg {
-  std::string text;
-  scan_arg(int value) : text(std::to_string(value)) {}
-  scan_arg(std::string_view value) : text(value) {}
-  scan_arg(const std::string& value) : text(value) {}
-  scan_arg(const char* value) : text(value) {}
-};
-
-// Formats a message: %d and %s take the arguments in order, "%%" becomes "%". A "%%s" is where
-// the rest of the line will go; its position is stored in *tail_at when tail_at is given.
-std::string scan_format(std::string_view format, std::initializer_list<scan_arg> args,
-                        std::size_t* tail_at = nullptr);
+// The failing action of a rule (a macro, since BEGIN belongs to the generated scanner): stores the
+// message that waits for the rest of the line and goes on in the ERROR_TAIL state.
+#define SCAN_FAIL(...)                      \
+  do {                                      \
+    mero::scan_fail(*yyextra, __VA_ARGS__); \
+    BEGIN(ERROR_TAIL);                      \
+  } while (0)
 
 // Stops the scan with a complete message; the scanner returns the 1 that this gives back.
-int scan_stop(scan_state& s, std::string_view format, std::initializer_list<scan_arg> args);
+int scan_stop(scan_state& s, const message& format, std::initializer_list<message_arg> args);
 // Stores a message that still waits for the rest of the line; the scanner then goes to its
 // ERROR_TAIL state, where scan_finish_tail completes it.
-void scan_fail(scan_state& s, std::string_view format, std::initializer_list<scan_arg> args);
+void scan_fail(scan_state& s, const message& format, std::initializer_list<message_arg> args);
 // Puts the rest of the line into the waiting message; returns 1, the scanner's error return.
 int scan_finish_tail(scan_state& s, std::string_view rest);
 
@@ -89,5 +92,44 @@ void scan_echo(const char* text, std::size_t length);
 // the int range instead of overflowing).
 double scan_real(const char* text);
 int scan_int(const char* text);
+
+// The three entries that flex generates for a scanner prefix, typed on its state (flex's yyscan_t
+// is a void*).
+template <class State>
+struct scanner_entries {
+  int (*init_extra)(State*, void**);
+  int (*lex)(void*);
+  int (*destroy)(void*);
+};
+
+// Runs a scanner over its state to the end: 0 when the input is done, 1 when state.message holds
+// an error. A scanner's entry may return more than 1, meaning "call again". The scanner is
+// released also when a report leaves the scan by an exception (as the unit tests' reporters do).
+template <class State>
+int run_scanner(const scanner_entries<State>& entries, State& state) {
+  struct guard {
+    const scanner_entries<State>& entries;
+    void* scanner = nullptr;
+    ~guard() { entries.destroy(scanner); }
+  } g{entries};
+  entries.init_extra(&state, &g.scanner);
+  int result;
+  do {
+    result = entries.lex(g.scanner);
+  } while (result > 1);
+  return result;
+}
+
+// Opens a data file for a scanner; a directory, or a file that cannot be opened, ends the process
+// with cannot_open.
+std::ifstream open_scan_input(const std::string& path, const message& cannot_open);
+
+// Runs a scanner entry (the one-line function around run_scanner) on a state that its reader has
+// started on a stream; a syntax error ends the process with the scanner's message under the
+// reader's code.
+template <class State>
+void scan_or_report(int (*scan)(State&), State& state, int syntax_code) {
+  if (scan(state) == 1) report_error(state.message, syntax_code, 1, true);
+}
 
 }  // namespace mero

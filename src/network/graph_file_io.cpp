@@ -1,6 +1,5 @@
 #include "network/graph_file_io.h"
 
-#include <filesystem>
 #include <fstream>
 #include <vector>
 
@@ -15,10 +14,6 @@ namespace {
 
 namespace text = network_messages;
 
-[[noreturn]] void scanner_error(const std::string& message) {
-  report_error(message, text::scanner_error_code, 1, true);
-}
-
 void make_nodes(const location_scan& scan, location_graph& g, std::vector<node>& nodes) {
   for (const location& l : scan.scanned_locations) {
     node_weights info;
@@ -31,8 +26,7 @@ void make_nodes(const location_scan& scan, location_graph& g, std::vector<node>&
 // out-of-range number is reported instead of being followed.
 node numbered_node(const std::vector<node>& nodes, int number, std::size_t line) {
   if (number < 1 || static_cast<std::size_t>(number) > nodes.size())
-    scanner_error("Node number " + std::to_string(number) + " out of range in adjacency line " +
-                  std::to_string(line + 1) + ".");
+    report_error(text::node_out_of_range, {number, static_cast<int>(line + 1)});
   return nodes[static_cast<std::size_t>(number - 1)];
 }
 
@@ -42,9 +36,9 @@ void make_edges(const location_scan& scan, location_graph& g, const std::vector<
                numbered_node(nodes, scan.adjacency_targets[k], k), scan.adjacency_lengths[k]);
 }
 
-std::ofstream open_for_writing(const std::string& path, const network_message& failure) {
+std::ofstream open_for_writing(const std::string& path, const message& failure) {
   std::ofstream out(path);
-  if (!out) report_error(failure.text, failure.code, 1, true);
+  if (!out) report_error(failure);
   return out;
 }
 
@@ -52,12 +46,10 @@ std::ofstream open_for_writing(const std::string& path, const network_message& f
 
 void read_graph(const std::string& path, location_graph& g, facilities& problem) {
   g.clear();
-  std::ifstream in;
-  if (!std::filesystem::is_directory(path)) in.open(path);
-  if (!in.is_open()) report_error(text::reader_open.text, text::reader_open.code, 1, true);
+  std::ifstream in = open_scan_input(path, text::reader_open);
   location_scan scan;
   scan.start(in, location_file_types::plain);
-  if (scan_location_file(scan) == 1) scanner_error(scan.message);
+  scan_or_report(scan_location_file, scan, text::syntax_error.code);
   std::vector<node> nodes;
   if (scan.graph_nodes) make_nodes(scan, g, nodes);
   if (scan.graph_edges) make_edges(scan, g, nodes);

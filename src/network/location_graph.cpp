@@ -50,8 +50,7 @@ matrix distance_matrix(const location_graph& g) {
   for (edge e = copy.first_edge(); e != nullptr; e = graph::succ_edge(e)) lengths[e] = copy.inf(e);
   std::vector<std::vector<double>> table;
   if (!all_pairs_shortest_paths(copy, lengths, table))
-    report_error(network_messages::negative_cycle.text, network_messages::negative_cycle.code, 1,
-                 windowed_mode);
+    report_error(network_messages::negative_cycle);
   std::vector<node> nodes = copy.all_nodes();
   int n = static_cast<int>(nodes.size());
   matrix d(n, n);
@@ -73,13 +72,12 @@ edge find_edge(const location_graph& g, node u, node v) {
         node s = graph::source(e), t = graph::target(e);
         if ((s == u && t == v) || (s == v && t == u)) return e;
       }
-  report_error(network_messages::not_adjacent.text, network_messages::not_adjacent.code, 1,
-               windowed_mode);
+  report_error(network_messages::not_adjacent);
 }
 
-void connection_repair(location_graph& g, const char* message) {
+void connection_repair(location_graph& g, const message& question) {
   while (!is_connected(g)) {
-    report_question(message, 1, true, windowed_mode);
+    report_question(question, 1, true);
     make_connected(g);
   }
 }
@@ -94,9 +92,7 @@ location_graph undirected_form(const location_graph& g) {
 
 location_graph tree_form(const location_graph& g) {
   location_graph copy = undirected_form(g);
-  if (!is_tree(copy))
-    report_error(network_messages::not_a_tree.text, network_messages::not_a_tree.code, 1,
-                 windowed_mode);
+  if (!is_tree(copy)) report_error(network_messages::not_a_tree);
   return copy;
 }
 

@@ -12,6 +12,7 @@
 
 #include "kernel/graph.h"
 #include "kernel/matrix.h"
+#include "kernel/reporters.h"
 
 namespace mero {
 
@@ -67,7 +68,7 @@ edge find_edge(const location_graph& g, node u, node v);
 
 // While g is not (weakly) connected: show `message` through the question reporter, which may end
 // the run, and join the components with length-0 edges. Works on the graph it is given.
-void connection_repair(location_graph& g, const char* message);
+void connection_repair(location_graph& g, const message& question);
 
 // The working forms of a graph that was read: a plain copy, an undirected copy (self-loops
 // deleted with the kernel's warning), and the undirected copy of a tree (error 2201 otherwise).

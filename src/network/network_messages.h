@@ -2,30 +2,31 @@
 // The texts and codes that the network model, its solvers and the graph files report, kept in
 // one place so that the code that raises them and the tests that expect them read the same words.
 
-namespace mero {
+#include "kernel/reporters.h"
 
-struct network_message {
-  int code;
-  const char* text;
-};
+namespace mero {
 
 namespace network_messages {
 
-inline constexpr network_message negative_cycle{2001, "Negative cycle in graph"};
-inline constexpr network_message not_adjacent{2002, "The two nodes are not adjazent"};
-inline constexpr network_message not_a_tree{2201, "Graph is not a tree :-)"};
+inline constexpr message negative_cycle{2001, "Negative cycle in graph"};
+inline constexpr message not_adjacent{2002, "The two nodes are not adjazent"};
+inline constexpr message not_a_tree{2201, "Graph is not a tree :-)"};
 
-inline constexpr network_message adjacency_writer_open{2103, "Can't open file !"};
-inline constexpr network_message graph_writer_open{2104, "Can't open file !"};
-inline constexpr network_message reader_open{2111, "Can't open file!"};
-inline constexpr int scanner_error_code = 2112;
+inline constexpr message adjacency_writer_open{2103, "Can't open file !"};
+inline constexpr message graph_writer_open{2104, "Can't open file !"};
+inline constexpr message reader_open{2111, "Can't open file!"};
+// The graph reader reports the location scanner's syntax messages under this code (the text is
+// the scanner's default), and a node number beyond the nodes of the file as well.
+inline constexpr message syntax_error{2112, "Syntaxerror in location file!"};
+inline constexpr message node_out_of_range{2112,
+                                           "Node number %d out of range in adjacency line %d."};
 
 // Shown, through the question reporter, before a disconnected graph is joined at one node.
-inline constexpr const char* median_not_connected = "Graph is not connected: MERO could connect it";
-inline constexpr const char* center_not_connected =
-    "Graph is not strictly connected: MERO could connect it";
-inline constexpr const char* multicriteria_not_connected =
-    "Graph is not connected: MERO is could connect it";
+inline constexpr message median_not_connected{0, "Graph is not connected: MERO could connect it"};
+inline constexpr message center_not_connected{
+    0, "Graph is not strictly connected: MERO could connect it"};
+inline constexpr message multicriteria_not_connected{
+    0, "Graph is not connected: MERO is could connect it"};
 
 // The kernel's check of a list's head, which an empty weight list of a node meets.
 inline constexpr const char* empty_weights = "dlist::head(): empty list";

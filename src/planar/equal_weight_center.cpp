@@ -5,7 +5,7 @@
 #include "kernel/error_handler.h"
 #include "model/facilities.h"
 #include "model/model_messages.h"
-#include "planar/single_facility_messages.h"
+#include "planar/planar_messages.h"
 #include "planar/weighted_points.h"
 
 namespace mero {
@@ -18,8 +18,7 @@ void require_equal_weights(const facilities& problem) {
   if (problem.empty()) empty_list_error(model_messages::empty_list);
   const double head = problem.front().weight(0);
   for (const location& l : problem)
-    if (l.weight(0) != head)
-      report_single_facility_error(single_facility_messages::unequal_weights);
+    if (l.weight(0) != head) report_error(single_facility_messages::unequal_weights);
 }
 
 }  // namespace

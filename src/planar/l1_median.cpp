@@ -18,7 +18,7 @@ entry walk_to_half(const std::list<location>& merged, int w, double half, double
     sum += it->weight(w);
     if (!(sum < half)) return it;
   }
-  report_model_error(model_messages::l1_no_median);
+  report_error(model_messages::l1_no_median);
 }
 
 // The next entry in the given direction whose weight in column 0 (not the solved column) is not
@@ -26,13 +26,13 @@ entry walk_to_half(const std::list<location>& merged, int w, double half, double
 entry step_forward(const std::list<location>& merged, entry from) {
   for (++from; from != merged.end(); ++from)
     if (from->weight(0) != 0.0) return from;
-  report_model_error(model_messages::l1_no_corner);
+  report_error(model_messages::l1_no_corner);
 }
 
 entry step_backward(const std::list<location>& merged, entry from) {
   while (from != merged.begin())
     if ((--from)->weight(0) != 0.0) return from;
-  report_model_error(model_messages::l1_no_corner);
+  report_error(model_messages::l1_no_corner);
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ double facilities::l1_sum(int w, bool clear) {
   double total = 0.0;
   for (const location& l : xs) total += l.weight(w);
   if (xs.empty() || total == 0.0) {
-    report_message(model_messages::l1_all_zero, false, windowed_mode);
+    report_message(model_messages::l1_all_zero, false);
     return 0.0;
   }
   const double half = total * 0.5;
@@ -57,7 +57,7 @@ double facilities::l1_sum(int w, bool clear) {
   double sy = 0.0;
   const entry x = walk_to_half(xs, w, half, sx);
   const entry y = walk_to_half(ys, w, half, sy);
-  if (!(sx >= half && sy >= half)) report_model_error(model_messages::l1_no_median);
+  if (!(sx >= half && sy >= half)) report_error(model_messages::l1_no_median);
 
   location corner(2, 1);
   corner.weight_ref(0) = w;

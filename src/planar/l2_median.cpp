@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "model/facilities.h"
-#include "planar/single_facility_messages.h"
+#include "planar/planar_messages.h"
 #include "planar/weighted_points.h"
 
 namespace mero {
@@ -92,7 +92,7 @@ bool facilities::is_l2_optimal(const location& loc, int w) const {
 // the iterate comes near and that passes the subgradient test is returned exactly. optima receives
 // one point with weight entry 0 = w. eps not positive: error 1308.
 double facilities::l2_sum(int w, double eps, bool clear) {
-  if (!(eps > 0.0)) report_single_facility_error(single_facility_messages::l2_eps);
+  if (!(eps > 0.0)) report_error(single_facility_messages::l2_eps);
   std::vector<bool> tested(size(), false);
   if (clear) optima_.clear();
   const std::vector<weighted_point> points = weighted_points(*this, w);

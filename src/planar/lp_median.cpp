@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "model/facilities.h"
-#include "planar/single_facility_messages.h"
+#include "planar/planar_messages.h"
 #include "planar/weighted_points.h"
 
 namespace mero {
@@ -75,9 +75,8 @@ location facilities::lp_step(const location& loc, int p, double smoothing, int w
 // no positive bound: error 1309.
 double facilities::lp_sum(int p, double eps, double smoothing, int max_iterations, int w,
                           bool clear) {
-  if (p < 1) report_single_facility_error(single_facility_messages::lp_exponent);
-  if (!(eps > 0.0) && max_iterations <= 0)
-    report_single_facility_error(single_facility_messages::lp_stop);
+  if (p < 1) report_error(single_facility_messages::lp_exponent);
+  if (!(eps > 0.0) && max_iterations <= 0) report_error(single_facility_messages::lp_stop);
   if (clear) optima_.clear();
   const std::vector<weighted_point> points = weighted_points(*this, w);
   for (std::size_t i = 0; i < points.size(); ++i)

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "planar/multifacility.h"
+#include "planar/planar_messages.h"
 
 namespace mero {
 
@@ -67,7 +68,7 @@ double facilities::N_l2sqr_sum(int n, const matrix& V, bool clear) {
   // Negative data can make the matrix singular in other ways; the kernel's own rank test in
   // inv() still stops those.
   if (!has_negative_data(*this, n, V) && has_unanchored_group(*this, n, V))
-    report_multifacility_error(multifacility_messages::singular_system);
+    report_error(multifacility_messages::singular_system);
   vector bx(n), by(n);
   for (int j = 0; j < n; ++j)
     for (const location& a : *this) {

@@ -2,6 +2,7 @@
 
 #include "lp/linf_model.h"
 #include "planar/multifacility.h"
+#include "planar/planar_messages.h"
 
 namespace mero {
 
@@ -22,7 +23,7 @@ linf_program build_program(const facilities& problem, int n, const matrix& V) {
   for (int j = 0; j < n; ++j) {
     for (const location& a : problem) {
       const double w = a.weight(j);
-      if (w == 0.0) report_multifacility_error(msg::zero_weight);
+      if (w == 0.0) report_error(msg::zero_weight);
       lp.rhs_x.insert(lp.rhs_x.end(), {a.coordinate(0), -a.coordinate(0)});
       lp.rhs_y.insert(lp.rhs_y.end(), {a.coordinate(1), -a.coordinate(1)});
       lp.z.insert(lp.z.end(), 2, 1.0 / w);
@@ -31,7 +32,7 @@ linf_program build_program(const facilities& problem, int n, const matrix& V) {
   // Also for pairs that have nothing to do with each other: 0.0 has no reciprocal.
   for (int j = 0; j < n; ++j) {
     for (int k = j + 1; k < n; ++k) {
-      if (V(j, k) == 0.0) report_multifacility_error(msg::zero_dependency);
+      if (V(j, k) == 0.0) report_error(msg::zero_dependency);
       lp.rhs_x.insert(lp.rhs_x.end(), 2, 0.0);
       lp.rhs_y.insert(lp.rhs_y.end(), 2, 0.0);
       lp.z.insert(lp.z.end(), 2, 1.0 / V(j, k));

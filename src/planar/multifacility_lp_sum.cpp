@@ -8,6 +8,7 @@
 #include "model/model_messages.h"
 #include "model/scan_common.h"
 #include "planar/multifacility.h"
+#include "planar/planar_messages.h"
 
 namespace mero {
 
@@ -53,15 +54,15 @@ std::list<location> first_of_each_column(const std::list<location>& pile) {
 std::pair<double, double> facilities::N_lp_sum_v1(int n, int p, const matrix& V, bool clear) {
   namespace msg = multifacility_messages;
   // Only the maximum norm (-1) and the lp norms from 1 up are defined.
-  if (p != -1 && p < 1) report_model_error(model_messages::bad_norm);
+  if (p != -1 && p < 1) report_error(model_messages::bad_norm);
   if (empty()) empty_list_error(model_messages::empty_list);
   const int weights = front().weight_dim();
   int dim = V.dim1();
   if (V.dim1() != V.dim2()) {
-    report_message(scan_format(msg::non_quadratic, {weights}), true, windowed_mode);
+    report_message(msg::non_quadratic, true, {weights});
     dim = std::min(V.dim1(), V.dim2());
   }
-  if (n > weights || n > dim || weights > dim) report_multifacility_error(msg::cannot_compute_more);
+  if (n > weights || n > dim || weights > dim) report_error(msg::cannot_compute_more);
   if (clear) optima_.clear();
   std::vector<location> chosen;
   for (const location& l : first_of_each_column(pile_up_medians(*this, n, p)))

@@ -9,7 +9,7 @@
 #include "kernel/reporters.h"
 #include "model/facilities.h"
 #include "model/model_messages.h"
-#include "planar/single_facility_messages.h"
+#include "planar/planar_messages.h"
 #include "planar/weighted_points.h"
 
 namespace mero {
@@ -138,7 +138,7 @@ double facilities::linf_max(bool clear) {
         optima_.push_back(l);
         return z;
       }
-    report_message(single_facility_messages::linf_max_whole_plane, false, windowed_mode);
+    report_message(single_facility_messages::linf_max_whole_plane, false);
     return z;
   }
   weighted_point lower, upper;

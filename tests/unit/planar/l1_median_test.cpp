@@ -38,7 +38,7 @@ TEST(l1_median, weights_cancelling_to_zero_or_no_location_mean_the_whole_plane) 
   for (const auto& locations :
        std::vector<std::vector<location>>{{at(1, 1, 2), at(2, 3, -2)}, {}}) {
     facilities f = problem(locations);
-    EXPECT_REPORT(f.l1_sum(0, true), 0, model_messages::l1_all_zero);
+    EXPECT_REPORT(f.l1_sum(0, true), 0, model_messages::l1_all_zero.text);
     EXPECT_TRUE(f.optima_view().empty());
   }
 }

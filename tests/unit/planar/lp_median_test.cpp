@@ -1,4 +1,4 @@
-#include "planar/single_facility_messages.h"
+#include "planar/planar_messages.h"
 #include "planar_fixtures.h"
 
 namespace mero::testing {
