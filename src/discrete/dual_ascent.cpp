@@ -6,6 +6,7 @@
 #include "discrete/cost_table.h"
 #include "discrete/discrete_messages.h"
 #include "discrete/discrete_problem.h"
+#include "kernel/index.h"
 #include "kernel/reporters.h"
 
 namespace mero {
@@ -71,11 +72,11 @@ struct dual_ascent_solver {
 dual_ascent_solver::dual_ascent_solver(const cost_table& t)
     : C(t), by_cost(t.c.size()), sorted_cost(t.c.size()) {
   for (int i = 0; i < C.m; ++i) {
-    int* cols = by_cost.data() + static_cast<std::size_t>(i) * C.n;
+    int* cols = by_cost.data() + at(i) * C.n;
     std::iota(cols, cols + C.n, 0);
     const double* row = C.row(i);
     std::stable_sort(cols, cols + C.n, [row](int a, int b) { return row[a] < row[b]; });
-    for (int t = 0; t < C.n; ++t) sorted_cost[static_cast<std::size_t>(i) * C.n + t] = row[cols[t]];
+    for (int t = 0; t < C.n; ++t) sorted_cost[at(i) * C.n + t] = row[cols[t]];
   }
 }
 
@@ -85,10 +86,10 @@ slack_values dual_ascent_solver::slack_of(const std::vector<double>& f,
   for (int j = 0; j < C.n; ++j) slack.value[j] = -f[j];
   // The facilities that customer i pays into are those cheaper than v[i], a prefix of its row.
   for (int i = 0; i < C.m; ++i) {
-    const std::size_t at = static_cast<std::size_t>(i) * C.n;
-    const double* costs = sorted_cost.data() + at;
+    const std::size_t row_start = at(i) * C.n;
+    const double* costs = sorted_cost.data() + row_start;
     const int below = static_cast<int>(std::lower_bound(costs, costs + C.n, v[i]) - costs);
-    for (int t = 0; t < below; ++t) slack.value[by_cost[at + t]] += v[i] - costs[t];
+    for (int t = 0; t < below; ++t) slack.value[by_cost[row_start + t]] += v[i] - costs[t];
   }
   for (double x : slack.value)
     if (x > tolerance) ++slack.hot;
@@ -102,13 +103,13 @@ slack_values dual_ascent_solver::slack_of(const std::vector<double>& f,
 // prefix of the row below that level.
 void dual_ascent_solver::raise_dual(int i, std::vector<double>& v, slack_values& slack) const {
   const double* row = C.row(i);
-  const std::size_t at = static_cast<std::size_t>(i) * C.n;
-  const double* costs = sorted_cost.data() + at;
+  const std::size_t row_start = at(i) * C.n;
+  const double* costs = sorted_cost.data() + row_start;
   const int p = static_cast<int>(std::upper_bound(costs, costs + C.n, v[i] + tolerance) - costs);
   const double next = p < C.n ? costs[p] : infinite_cost;
   const bool all = slack.hot > 0;
   const int count = all ? C.n : p;
-  auto column = [&](int t) { return all ? t : by_cost[at + t]; };
+  auto column = [&](int t) { return all ? t : by_cost[row_start + t]; };
 
   bool limited = false;
   double delta = infinite_cost;
@@ -190,8 +191,7 @@ void dual_ascent_solver::primal(const std::vector<double>& slack, node_state& s)
     s.z += row[best_j];
     for (int j = 0; j < C.n; ++j) {
       const double x = best_j == j ? 1.0 : 0.0;
-      s.W[static_cast<std::size_t>(i) * C.n + j] =
-          s.v[i] - row[j] <= 0.0 ? 0.0 : (s.y[j] - x) * (s.v[i] - row[j]);
+      s.W[at(i) * C.n + j] = s.v[i] - row[j] <= 0.0 ? 0.0 : (s.y[j] - x) * (s.v[i] - row[j]);
     }
   }
 }
@@ -242,7 +242,7 @@ int dual_ascent_solver::branch_variable(const node_problem& p, const node_state&
   for (int j = 0; j < C.n; ++j) {
     if (s.y[j] != 1.0 || p.fixed[j] != fixing::free) continue;
     for (int i = 0; i < C.m; ++i)
-      if (s.W[static_cast<std::size_t>(i) * C.n + j] > tolerance) return j;
+      if (s.W[at(i) * C.n + j] > tolerance) return j;
   }
   return -1;
 }
@@ -297,8 +297,7 @@ double discrete_problem::UFL_Dualoc() {
   const dual_ascent_solver solver(t);
   node_problem root{t.f, std::vector<fixing>(t.n, fixing::free), 0.0};
   node_state s{std::vector<double>(t.m, 0.0), std::vector<double>(t.n, 0.0),
-               std::vector<int>(t.m, 0),
-               std::vector<double>(static_cast<std::size_t>(t.m) * t.n, 0.0), 0.0};
+               std::vector<int>(t.m, 0), std::vector<double>(at(t.m) * t.n, 0.0), 0.0};
   solver.dual_ascent(root, s);
   solver.best_found = s.z;
 

@@ -31,7 +31,6 @@ struct parser {
   bool have_a = false, have_main = false, have_r = false, have_m = false;
   bool have_p = false, have_n = false, have_gauge = false;
 
-
   void set_windowed(bool on) {
     request.windowed = on;
     windowed_mode = on;
@@ -128,23 +127,26 @@ chain parser::choose_chain() const {
 }
 
 void parser::look_up() {
-  if (!have_a || !have_main)
-    report_error(text::missing_algorithm);
+  if (!have_a || !have_main) report_error(text::missing_algorithm);
   chain in = choose_chain();
   request.algorithm = find_algorithm(in, algorithm);
   if (request.algorithm == no_algorithm) {
     switch (in) {
-      case chain::A: report_error(text::illegal_algorithm_a);
-      case chain::N: report_error(text::illegal_algorithm_n);
-      case chain::R: report_error(text::illegal_algorithm_r);
-      case chain::G: report_error(text::illegal_algorithm_g);
-      case chain::RG: print_usage_and_exit();  // an unknown name here reports nothing
+      case chain::A:
+        report_error(text::illegal_algorithm_a);
+      case chain::N:
+        report_error(text::illegal_algorithm_n);
+      case chain::R:
+        report_error(text::illegal_algorithm_r);
+      case chain::G:
+        report_error(text::illegal_algorithm_g);
+      case chain::RG:
+        print_usage_and_exit();  // an unknown name here reports nothing
     }
   }
   if (needs_p(request.algorithm) && !have_p) report_error(text::missing_p);
   // The N-center numbers are left out of this check on purpose: they read N all the same.
-  if (needs_n(request.algorithm) && !have_n)
-    report_error(text::missing_n);
+  if (needs_n(request.algorithm) && !have_n) report_error(text::missing_n);
 }
 
 }  // namespace

@@ -1,20 +1,62 @@
 #include <ostream>
 
+#include "driver/problem_kind.h"
 #include "driver/run_context.h"
+#include "kernel/error_handler.h"
 #include "model/location_file.h"
+#include "model/model_messages.h"
 
 namespace mero {
 
-void load_planar(run_context& ctx) { read_location_file(ctx.request.data_file, ctx.problem); }
+namespace {
 
-void load_gauge(run_context& ctx) {
+bool any_request(const run_request&) { return true; }
+bool has_gauge_file(const run_request& request) { return request.have_gauge; }
+
+void load_locations(run_context& ctx) { read_location_file(ctx.request.data_file, ctx.problem); }
+
+void load_gauge_locations(run_context& ctx) {
   read_gauge_location_file(ctx.request.data_file, ctx.problem, ctx.gauge_numbers);
 }
 
-// Gauge problems leave their optima in situations, planar ones in results.
-void write_planar_optima(run_context& ctx, std::ostream& report) {
-  const bool gauge = kind_of(ctx.request) == problem_kind::gauge;
-  location::WriteAsPolygonList(report, gauge ? ctx.situations : ctx.results);
+// One objective value per weight column of the first location; an empty location list is the
+// list error of the kernel.
+std::size_t weight_columns(const run_context& ctx) {
+  if (ctx.problem.empty()) empty_list_error(model_messages::empty_list);
+  return static_cast<std::size_t>(ctx.problem.front().weights().size());
+}
+
+void write_planar_value(const run_context&, double value, std::ostream& report) {
+  write_objective_value(value, report);
+}
+
+void write_situation_value(const run_context&, double value, std::ostream& report) {
+  report << "begin {situations}\n" << value << "\nend {situations}\n";
+}
+
+// Planar solvers leave their points, lines or polygons in results, gauge solvers in situations.
+void write_results(run_context& ctx, std::ostream& report) {
+  location::WriteAsPolygonList(report, ctx.results);
+}
+
+void write_situations(run_context& ctx, std::ostream& report) {
+  location::WriteAsPolygonList(report, ctx.situations);
+}
+
+}  // namespace
+
+void write_objective_value(double value, std::ostream& report) {
+  report << "begin {objective value} \n" << value << "\nend {objective value}\n";
+}
+
+problem_kind planar_kind() {
+  return {any_request, load_locations, weight_columns, write_planar_value, write_results};
+}
+
+// A location file of the "GaugeLoc" type, given with a gauge file.
+problem_kind gauge_kind() {
+  return {has_gauge_file, load_gauge_locations, weight_columns, write_situation_value,
+          write_situations};
 }
 
 }  // namespace mero

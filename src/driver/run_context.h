@@ -2,8 +2,6 @@
 // Everything one problem run owns for its whole length: one object of each kind of problem, all
 // empty at the start, whichever kind the command line asks for.
 
-#include <cstddef>
-#include <iosfwd>
 #include <list>
 #include <string>
 #include <vector>
@@ -32,23 +30,5 @@ struct run_context {
   discrete_problem discrete;       // the data and result of discrete problems (-d first)
   location_graph graph;            // the graph of network problems (-g), with their optima
 };
-
-// The kinds of main file. Each loads its file and writes its optima in its own file of this
-// folder; the run writes the frame around them.
-enum class problem_kind { planar, gauge, graph, discrete };
-
-problem_kind kind_of(const run_request& request);
-
-void load_planar(run_context& ctx);
-void load_gauge(run_context& ctx);
-void write_planar_optima(run_context& ctx, std::ostream& report);
-
-void load_graph(run_context& ctx);
-std::size_t graph_objective_size(const run_context& ctx);
-void write_graph_optima(run_context& ctx, std::ostream& report);
-
-void load_discrete(run_context& ctx);
-std::size_t discrete_objective_size(const run_context& ctx);
-void write_discrete_optima(run_context& ctx, std::ostream& report);
 
 }  // namespace mero

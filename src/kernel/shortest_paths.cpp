@@ -3,13 +3,11 @@
 #include <cstddef>
 #include <deque>
 
+#include "kernel/index.h"
+
 namespace mero {
 
 namespace {
-
-std::size_t at(int number) { return static_cast<std::size_t>(number); }
-std::size_t at(node v) { return static_cast<std::size_t>(graph::index(v)); }
-std::size_t at(edge e) { return static_cast<std::size_t>(graph::index(e)); }
 
 // Binary min-heap of nodes keyed by double, with each node's place in the heap kept so that a
 // key can be decreased in O(log n).

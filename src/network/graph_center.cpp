@@ -4,6 +4,7 @@
 
 #include "kernel/error_handler.h"
 #include "kernel/graph_array.h"
+#include "kernel/index.h"
 #include "network/network_messages.h"
 #include "network/tent_envelope.h"
 
@@ -36,19 +37,18 @@ graphpointset node_center(location_graph& g, double& value) {
   for (int x = 0; x < n; ++x) {
     double m = d(x, 0) * w[0];
     for (int j = 1; j < n; ++j)
-      if (d(x, j) * w[static_cast<std::size_t>(j)] > m)
-        m = d(x, j) * w[static_cast<std::size_t>(j)];
+      if (d(x, j) * w[at(j)] > m) m = d(x, j) * w[at(j)];
     farthest.push_back(m);
   }
   double best = farthest[0];
   graphpointset result;
   for (int k = 0; k < n; ++k) {
-    if (farthest[static_cast<std::size_t>(k)] == best) {
+    if (farthest[at(k)] == best) {
       result.push_back({k, k, 0.0});
-    } else if (farthest[static_cast<std::size_t>(k)] < best) {
+    } else if (farthest[at(k)] < best) {
       result.clear();
       result.push_back({k, k, 0.0});
-      best = farthest[static_cast<std::size_t>(k)];
+      best = farthest[at(k)];
     }
   }
   value = best;
@@ -65,13 +65,11 @@ graphpointset abs_center(location_graph& g, double& value) {
   node_array<int> number(copy, 0);
   int k = 0;
   for (node v = copy.first_node(); v != nullptr; v = graph::succ_node(v)) number[v] = k++;
-  std::vector<tent> tents(static_cast<std::size_t>(n));
+  std::vector<tent> tents(at(n));
   graphpointset result;
   for (edge e = copy.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
     int u = number[graph::source(e)], v = number[graph::target(e)];
-    for (int i = 0; i < n; ++i)
-      tents[static_cast<std::size_t>(i)] =
-          node_tent(d(u, i), d(v, i), w[static_cast<std::size_t>(i)], copy.inf(e));
+    for (int i = 0; i < n; ++i) tents[at(i)] = node_tent(d(u, i), d(v, i), w[at(i)], copy.inf(e));
     for (const point& p : envelope_minima(tents)) {
       graph_point candidate{u, v, p.xcoord()};
       if (p.xcoord() == 0.0) candidate = {u, u, 0.0};

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "kernel/index.h"
 #include "network/network_messages.h"
 
 namespace mero {
@@ -14,7 +15,7 @@ double midpoint_score(const matrix& d, const std::vector<double>& w, int a, int 
   double s = 0.0;
   for (int i = 0; i < d.dim1(); ++i) {
     double near = d(a, i) >= d(b, i) ? d(b, i) : d(a, i);
-    s = (l * 0.5 + near) * w[static_cast<std::size_t>(i)] + s;
+    s = (l * 0.5 + near) * w[at(i)] + s;
   }
   return s;
 }
@@ -39,7 +40,7 @@ graphpointset graph_median(location_graph& g, char mode, double& value) {
   int n = d.dim1();
   for (int x = 0; x < n; ++x) {
     double s = 0.0;
-    for (int j = 0; j < n; ++j) s = (d(x, j) + d(j, x)) * w[static_cast<std::size_t>(j)] + s;
+    for (int j = 0; j < n; ++j) s = (d(x, j) + d(j, x)) * w[at(j)] + s;
     if (s < value) {
       result.clear();
       result.push_back({x, x, 0.0});
@@ -65,8 +66,7 @@ graphpointset abs_graph_median(location_graph& g, double& value) {
   graphpointset edges;
   for (const graph_point& a : nodes)
     for (const graph_point& b : nodes) {
-      edge e = stored_edge_into(copy, by_number[static_cast<std::size_t>(b.first)],
-                                by_number[static_cast<std::size_t>(a.first)]);
+      edge e = stored_edge_into(copy, by_number[at(b.first)], by_number[at(a.first)]);
       if (e == nullptr) continue;
       if (midpoint_score(d, w, a.first, b.first, copy.inf(e)) == value)
         edges.push_back({a.first, b.first, 0.0});

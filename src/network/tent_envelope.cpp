@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "kernel/segment.h"
+
 namespace mero {
 
 tent node_tent(double du, double dv, double w, double length) {
@@ -14,16 +16,12 @@ tent node_tent(double du, double dv, double w, double length) {
   t.slope = length * w;
   point x;
   if (rising.intersection(falling, x) && x.xcoord() != 0.0 && x.xcoord() != 1.0) {
-    t.first = segment(p1, x);
-    t.second = segment(x, p4);
     double peak = (t.fall_start - t.rise_start) / (2.0 * t.slope);
     t.rise_end = t.fall_begin = peak < 0.0 ? 0.0 : (peak > 1.0 ? 1.0 : peak);
   } else if (p1.ycoord() < p3.ycoord()) {
-    t.first = rising;
     t.rise_end = 1.0;
     t.fall_begin = 2.0;
   } else {
-    t.first = falling;
     t.rise_end = -1.0;
     t.fall_begin = 0.0;
   }

@@ -6,21 +6,17 @@
 #include <vector>
 
 #include "kernel/point.h"
-#include "kernel/segment.h"
 
 namespace mero {
 
 // The tent of node i over an edge u-v of length L, in the plane of t in [0, 1] and weighted
 // distance: the rising line (0, du*w)-(1, (du+L)*w) and the falling line (0, (dv+L)*w)-(1, dv*w),
-// whose lower envelope is the function. Where the two lines cross strictly inside, `first` runs
-// from the rising line's start to the crossing and `second` from there to the falling line's
-// end. Otherwise one line is the function on all of [0, 1]: `first` is it (the rising one when it
-// starts lower) and `second` is the default segment at the origin.
+// whose lower envelope is the function. Where the two lines cross strictly inside, the rising
+// piece ends and the falling one begins at the peak; otherwise one line is the function on all
+// of [0, 1] (the rising one when it starts lower).
 // The walk over the envelope reads the lines' own coefficients, so that two nodes on the same
 // line are on exactly the same line whatever rounding the crossing point took.
 struct tent {
-  segment first;
-  segment second;
   double rise_start = 0.0;  // du*w; the rising line is rise_start + slope * t
   double fall_start = 0.0;  // (dv+L)*w; the falling line is fall_start - slope * t
   double slope = 0.0;       // L*w
