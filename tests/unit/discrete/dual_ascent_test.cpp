@@ -84,6 +84,31 @@ TEST(ufl_dualoc, matches_exhaustive_enumeration) {
   }
 }
 
+// Costs in steps of 0.1 (no binary fraction: every sum carries rounding) and of 0.001 (ten times
+// the ascent's tolerance, so a tie within the tolerance is never a true tie). The optimum must
+// be enumeration's to rounding.
+TEST(ufl_dualoc, matches_exhaustive_enumeration_on_fractional_costs) {
+  std::mt19937 rng(20261124);
+  const int shapes[][4] = {// m, n, cost range, fixed cost range, in steps
+                           {8, 6, 50, 100},
+                           {15, 10, 200, 400},
+                           {25, 12, 30, 60},
+                           {30, 12, 5000, 9000}};
+  for (double step : {0.1, 0.001})
+    for (const auto& s : shapes)
+      for (int round = 0; round < 25; ++round) {
+        auto [c, f] = draw(rng, s[0], s[1], s[2], s[3]);
+        for (auto& row : c)
+          for (double& x : row) x *= step;
+        for (double& x : f) x *= step;
+        discrete_problem p = make_discrete(c, f);
+        const double value = p.UFL_Dualoc(), best = brute_force(c, f);
+        ASSERT_NEAR(value, best, 1e-9 * std::max(1.0, best))
+            << "step " << step << " m " << s[0] << " n " << s[1] << " #" << round;
+        expect_consistent(p, c, f, value);
+      }
+}
+
 TEST(ufl_dualoc, heuristics_never_beat_it) {
   std::mt19937 rng(7);
   for (int round = 0; round < 40; ++round) {
