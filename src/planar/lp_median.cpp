@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/facilities.h"
+#include "planar/lp_pull_bound.h"
 #include "planar/planar_messages.h"
 #include "planar/weighted_points.h"
 
@@ -68,8 +69,9 @@ location facilities::lp_step(const location& loc, int p, double smoothing, int w
   return result_location(next.x, next.y, 0.0);
 }
 
-// lp median of column w: the first location that passes the subgradient test (O(n^2) for all
-// tests), else the smoothed iteration from the centre of gravity, O(n) per step, until a step is
+// lp median of column w: the first location that passes the subgradient test (the pull bound
+// rules out most locations in O(log n) each; the rest take the exact O(n) test), else the
+// smoothed iteration from the centre of gravity, O(n) per step, until a step is
 // shorter than eps or max_iterations steps were made (then the better of the last two iterates).
 // optima receives one point with weight entry 0 = w. p below 1: error 1310; no positive eps and
 // no positive bound: error 1309.
@@ -79,8 +81,9 @@ double facilities::lp_sum(int p, double eps, double smoothing, int max_iteration
   if (!(eps > 0.0) && max_iterations <= 0) report_error(single_facility_messages::lp_stop);
   if (clear) optima_.clear();
   const std::vector<weighted_point> points = weighted_points(*this, w);
+  const lp_pull_bound bound(points, p);
   for (std::size_t i = 0; i < points.size(); ++i)
-    if (is_optimal_at(points, i, p)) {
+    if (!bound.proves_failure(i) && is_optimal_at(points, i, p)) {
       optima_.push_back(result_location(points[i].x, points[i].y, w));
       return objective(p, w);
     }
