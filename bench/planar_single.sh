@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Times l2_sum, lp_sum (p = 3), linf_max and l2_v1_max as whole processes (reading included) on
 # N random locations, N = 10^4, 10^5, 10^6. l2_v1_max on 10^6 uniform points should finish in
-# under 3 s. lp_sum tests every location before it iterates, O(n^2): a run is stopped after LIMIT
-# seconds (default 300) and shown as "> LIMIT".
+# under 3 s. lp_sum rules out most locations with a bound before the exact test; a run is stopped
+# after LIMIT seconds (default 300) and shown as "> LIMIT".
 # Uses the program in $MERO, else bin/mero of the repository.
 source "$(dirname "$0")/lib/common.sh"
 limit="${LIMIT:-300}"
