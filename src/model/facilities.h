@@ -6,8 +6,10 @@
 
 #include <iosfwd>
 #include <list>
+#include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "kernel/matrix.h"
 #include "model/location.h"
@@ -22,6 +24,10 @@ int compare_by_coordinate(const location& a, const location& b);
 
 // Sorts ascending by coordinate c (sets sort_coordinate); equal keys keep their order.
 void sort_by_coordinate(std::list<location>& list, int c);
+
+class restriction;
+// The restrictions of a problem (src/restriction), in file order; the list owns them.
+using restriction_list = std::vector<std::unique_ptr<restriction>>;
 
 class facilities : public std::list<location> {
  public:
@@ -99,6 +105,19 @@ class facilities : public std::list<location> {
   // The total cost c + d and the ratio d / c of interdependency cost d to location cost c.
   std::pair<double, double> N_lp_sum_v1(int n, int p, const matrix& V, bool clear);
   double N_linf_sum_v1(int n, const matrix& V);
+
+  // --- Restricted medians and centers (src/restriction/restricted_median.cpp,
+  // restricted_lp_median.cpp, restricted_center.cpp); all read weight column 0. Each solves the
+  // unrestricted problem on a copy first and keeps its result when the restrictions allow it.
+  // An empty restriction list is the list error "dlist::head(): empty list". ---
+  double in_l2sqr_sum(const restriction_list& restrictions);
+  double in_l1_sum(const restriction_list& restrictions);
+  double in_linf_sum(const restriction_list& restrictions);
+  double in_lp_sum(const restriction_list& restrictions, int p, double eps, double smoothing,
+                   int max_iterations);
+  double in_l2_max(const restriction_list& restrictions);
+  double in_convex_linf_max(const restriction_list& restrictions);
+  double in_convex_l1_max(const restriction_list& restrictions);
 
  protected:
   std::list<location> optima_;
