@@ -94,7 +94,9 @@ void add_pair_crossings(l2max_candidates& c, const restriction& r, const locatio
     if (!(radius >= 0.0) || !std::isfinite(radius)) return;
     hits = r.hit_circle(circle(centre, radius));
   }
-  for (const point& q : hits) c.consider(q, weighted_l2(a, q));
+  // On the curve both weighted distances are the value; the larger of the two computed ones is
+  // taken, so that the rounding of the crossing cannot make the pair fail the test of the choice.
+  for (const point& q : hits) c.consider(q, std::max(weighted_l2(a, q), weighted_l2(b, q)));
 }
 
 // When nothing else offers itself, the region's vertices on the hull of region and locations.
@@ -193,6 +195,21 @@ bool keep_outside_pieces(const restriction& r, std::list<location>& U) {
   return false;
 }
 
+// The first point of hit_ray from a towards b. Only the direction of the ray counts: while its
+// end still lies inside the figure (a large figure, a corner close to a), the ray is doubled.
+point ray_exit(const restriction& r, const point& a, const point& b) {
+  point end = b;
+  for (int doubling = 0; doubling <= 60; ++doubling) {
+    if (!r.inside(end) || doubling == 60) {
+      const std::vector<point> hits = r.hit_ray(a, end);
+      if (hits.empty()) empty_list_error(model_messages::empty_list);
+      return hits.front();
+    }
+    end = a + (end - a) * 2.0;
+  }
+  return end;
+}
+
 }  // namespace
 
 double restriction::proj_linf_max(std::list<location>& U, const std::list<location>& locations,
@@ -223,10 +240,9 @@ double restriction::proj_linf_max(std::list<location>& U, const std::list<locati
   std::vector<point> candidates;
   std::vector<double> values;
   for (const auto& [from, corner] : rays) {
-    const std::vector<point> hits = hit_ray(from, corner);
-    if (hits.empty()) empty_list_error(model_messages::empty_list);
-    candidates.push_back(hits.front());
-    values.push_back(largest_weighted_linf(locations, hits.front()));
+    const point exit_point = ray_exit(*this, from, corner);
+    candidates.push_back(exit_point);
+    values.push_back(largest_weighted_linf(locations, exit_point));
   }
   const double smallest = *std::min_element(values.begin(), values.end());
   const location like = U.front();
