@@ -201,7 +201,7 @@ std::vector<point> restr_circle::hit_polygon(const polygon& p) const {
 std::list<location> restr_circle::proj_l2sqr(const location& p) const {
   const point q(p);
   if (q == center) {
-    report_message(msg::whole_boundary_optimal, true, windowed_mode);
+    report_message(msg::whole_boundary_optimal, true);
     return {located_like(point(center.xcoord(), center.ycoord() + radius), p)};
   }
   const std::vector<point> crossings = hit_line(line(center, q));

@@ -153,7 +153,7 @@ TEST(RestrCircle, InsideCrossingsAndProjection) {
   ASSERT_EQ(top.size(), 1u);
   EXPECT_EQ(point(top.front()), point(0, 5));
   ASSERT_EQ(testing::messages().size(), 1u);
-  EXPECT_EQ(testing::messages()[0].text, msg::whole_boundary_optimal);
+  EXPECT_EQ(testing::messages()[0].text, msg::whole_boundary_optimal.text);
   location any(2.0, 1.0, 0.0, 0.0);
   EXPECT_REPORT(c.proj_l2max(any, {}, 0.0), 1411, "Not implemented for this kind of restriction.");
 }

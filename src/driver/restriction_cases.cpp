@@ -1,0 +1,68 @@
+// Chain R: single-facility problems with the forbidden regions of the -r file. The "out" forms
+// turn every region into the only place where the new facility may stand before they solve.
+
+#include "driver/family.h"
+#include "driver/lpinfo.h"
+#include "driver/run_context.h"
+#include "restriction/restriction_file.h"
+
+namespace mero {
+
+namespace {
+
+void load_restrictions(run_context& ctx) {
+  ctx.restrictions = read_restriction_file(ctx.request.second_file.value_or(""));
+}
+
+double keep_optima(run_context& ctx, double value) {
+  ctx.results = ctx.problem.optima();
+  return value;
+}
+
+// Numbers 50 to 52 and their "out" forms 55 to 57, the centers 60, 61 and 64.
+double solve_restricted(run_context& ctx, int number) {
+  load_restrictions(ctx);
+  if (number >= 55 && number <= 57)
+    for (const auto& r : ctx.restrictions) r->set_forbidden_outside();
+  facilities& problem = ctx.problem;
+  const restriction_list& list = ctx.restrictions;
+  switch (number) {
+    case 50:
+    case 55:
+      return keep_optima(ctx, problem.in_l2sqr_sum(list));
+    case 51:
+    case 56:
+      return keep_optima(ctx, problem.in_l1_sum(list));
+    case 52:
+    case 57:
+      return keep_optima(ctx, problem.in_linf_sum(list));
+    case 60:
+      return keep_optima(ctx, problem.in_l2_max(list));
+    case 61:
+      return keep_optima(ctx, problem.in_convex_linf_max(list));
+    default:
+      return keep_optima(ctx, problem.in_convex_l1_max(list));
+  }
+}
+
+// Number 53, lp_sum with -r: p, eps, smoothing and the step limit from lpinfo (the values that
+// -p writes when it cannot be read); p and eps go into the label.
+double solve_restricted_lp_sum(run_context& ctx, int) {
+  load_restrictions(ctx);
+  const lp_info info = read_lpinfo_or_written(ctx.request.p);
+  ctx.label_args.p = info.p;
+  ctx.label_args.eps = info.eps;
+  return keep_optima(ctx, ctx.problem.in_lp_sum(ctx.restrictions, info.p, info.eps, info.smoothing,
+                                                info.max_iterations));
+}
+
+}  // namespace
+
+std::vector<family_case> restriction_cases() {
+  return {{50, solve_restricted},        {51, solve_restricted}, {52, solve_restricted},
+          {53, solve_restricted_lp_sum}, {55, solve_restricted}, {56, solve_restricted},
+          {57, solve_restricted},        {60, solve_restricted}, {61, solve_restricted},
+          {64, solve_restricted}};
+}
+
+}  // namespace mero
