@@ -13,24 +13,25 @@ namespace {
 
 bool is_finite(const point& q) { return std::isfinite(q.xcoord()) && std::isfinite(q.ycoord()); }
 
-}  // namespace
-
-std::vector<point> edge_crossings(const std::vector<segment>& edges, const segment& s) {
+// Collects meet(e, q) over the edges e, skipping the non-finite points of collinear overlaps.
+template <class Meet>
+std::vector<point> crossings_by(const std::vector<segment>& edges, Meet meet) {
   std::vector<point> out;
   for (const segment& e : edges) {
     point q;
-    if (e.intersection(s, q) && is_finite(q)) add_crossing(out, q);
+    if (meet(e, q) && is_finite(q)) add_crossing(out, q);
   }
   return out;
 }
 
+}  // namespace
+
+std::vector<point> edge_crossings(const std::vector<segment>& edges, const segment& s) {
+  return crossings_by(edges, [&](const segment& e, point& q) { return e.intersection(s, q); });
+}
+
 std::vector<point> edge_crossings(const std::vector<segment>& edges, const line& l) {
-  std::vector<point> out;
-  for (const segment& e : edges) {
-    point q;
-    if (l.intersection(e, q) && is_finite(q)) add_crossing(out, q);
-  }
-  return out;
+  return crossings_by(edges, [&](const segment& e, point& q) { return l.intersection(e, q); });
 }
 
 std::vector<point> edge_crossings(const std::vector<segment>& edges, const circle& c) {

@@ -29,15 +29,6 @@ double turning(const std::vector<segment>& ring) {
   return sum;
 }
 
-std::vector<point> concatenated_hits(const restriction& r, const polygon& p) {
-  std::vector<point> out;
-  for (const segment& s : p.segments()) {
-    const std::vector<point> part = r.hit_segment(s);
-    out.insert(out.end(), part.begin(), part.end());
-  }
-  return out;
-}
-
 // The one-element answer of hit_ray for the rectangle and the circle: the first crossing, and
 // the list error when there is none.
 std::vector<point> first_hit(const std::vector<point>& hits) {
@@ -46,6 +37,22 @@ std::vector<point> first_hit(const std::vector<point>& hits) {
 }
 
 }  // namespace
+
+bool forbidden_region::inside(const segment& s) const {
+  return inside(s.source()) && inside(s.target());
+}
+bool forbidden_region::inside(const location& l) const { return inside(point(l)); }
+std::vector<point> forbidden_region::hit_segment(const point& a, const point& b) const {
+  return hit_segment(segment(a, b));
+}
+std::vector<point> forbidden_region::hit_polygon(const polygon& p) const {
+  std::vector<point> out;
+  for (const segment& s : p.segments()) {
+    const std::vector<point> part = hit_segment(s);
+    out.insert(out.end(), part.begin(), part.end());
+  }
+  return out;
+}
 
 restr_polygon::restr_polygon(const std::vector<point>& points) {
   edges = ring_of(points);
@@ -70,18 +77,11 @@ bool restr_polygon::is_convex() const {
 }
 
 bool restr_polygon::inside(const point& p) const { return polygon_rule_inside(vertices(), p); }
-bool restr_polygon::inside(const location& l) const { return inside(point(l)); }
-bool restr_polygon::inside(const segment& s) const {
-  return inside(s.source()) && inside(s.target());
-}
 
 std::vector<point> restr_polygon::hit_ray(const point& a, const point& b) const {
   // A ray that ends inside is stretched tenfold so that it leaves the polygon.
   const point end = inside(b) ? a + (b - a) * 10.0 : b;
   return hit_segment(segment(a, end));
-}
-std::vector<point> restr_polygon::hit_segment(const point& a, const point& b) const {
-  return hit_segment(segment(a, b));
 }
 std::vector<point> restr_polygon::hit_segment(const segment& s) const {
   return edge_crossings(edges, s);
@@ -89,9 +89,6 @@ std::vector<point> restr_polygon::hit_segment(const segment& s) const {
 std::vector<point> restr_polygon::hit_line(const line& l) const { return edge_crossings(edges, l); }
 std::vector<point> restr_polygon::hit_circle(const circle& c) const {
   return edge_crossings(edges, c);
-}
-std::vector<point> restr_polygon::hit_polygon(const polygon& p) const {
-  return concatenated_hits(*this, p);
 }
 
 std::list<location> restr_polygon::proj_l2sqr(const location& p) const {
@@ -116,16 +113,9 @@ restr_rectangle::restr_rectangle(const point& c0, const point& c1, const point& 
 std::vector<segment> restr_rectangle::sides() const { return ring_of(corners); }
 
 bool restr_rectangle::inside(const point& p) const { return restr_polygon(corners).inside(p); }
-bool restr_rectangle::inside(const location& l) const { return inside(point(l)); }
-bool restr_rectangle::inside(const segment& s) const {
-  return inside(s.source()) && inside(s.target());
-}
 
 std::vector<point> restr_rectangle::hit_ray(const point& a, const point& b) const {
   return first_hit(hit_segment(a, b));
-}
-std::vector<point> restr_rectangle::hit_segment(const point& a, const point& b) const {
-  return hit_segment(segment(a, b));
 }
 std::vector<point> restr_rectangle::hit_segment(const segment& s) const {
   return edge_crossings(sides(), s);
@@ -135,9 +125,6 @@ std::vector<point> restr_rectangle::hit_line(const line& l) const {
 }
 std::vector<point> restr_rectangle::hit_circle(const circle& c) const {
   return edge_crossings(sides(), c);
-}
-std::vector<point> restr_rectangle::hit_polygon(const polygon& p) const {
-  return concatenated_hits(*this, p);
 }
 
 std::list<location> restr_rectangle::proj_l2sqr(const location& p) const {
@@ -150,10 +137,6 @@ std::list<location> restr_rectangle::proj_l2sqr(const location& p) const {
 restr_circle::restr_circle(const point& centre, double r) : center(centre), radius(r) {}
 
 bool restr_circle::inside(const point& p) const { return p.distance(center) - radius < 0.0; }
-bool restr_circle::inside(const location& l) const { return inside(point(l)); }
-bool restr_circle::inside(const segment& s) const {
-  return inside(s.source()) && inside(s.target());
-}
 
 std::vector<point> restr_circle::hit_ray(const point& a, const point& b) const {
   return first_hit(hit_segment(a, b));
@@ -192,10 +175,6 @@ std::vector<point> restr_circle::hit_circle(const circle& c) const {
   std::vector<point> out{at(base + angle)};
   if (angle != 0.0) out.push_back(at(base - angle));
   return out;
-}
-
-std::vector<point> restr_circle::hit_polygon(const polygon& p) const {
-  return concatenated_hits(*this, p);
 }
 
 std::list<location> restr_circle::proj_l2sqr(const location& p) const {

@@ -75,27 +75,40 @@ class halfspace {
   int direction = 0;  // vertical or horizontal lines: 1 if a lies before b on the growing axis
 };
 
-class restr_polygon : public restriction {
+// What the three forbidden regions share: the sense flag, the inside tests of a segment (both
+// ends) and a location (its point), the crossings with a polygon (edge by edge), and no cost of
+// reaching around them.
+class forbidden_region : public restriction {
  public:
-  // The ring through the points, stored clockwise. Fewer than 3 vertices: 1402; two consecutive
-  // equal vertices: 1403; last equal to first: 1404.
-  explicit restr_polygon(const std::vector<point>& points);
-
+  using restriction::hit_segment;
+  using restriction::inside;
   int kind() const override { return 0; }
-  int shape() const override { return 0; }
   bool is_forbidden_inside() const override { return forbidden_inside; }
   void set_forbidden_inside() override { forbidden_inside = true; }
   void set_forbidden_outside() override { forbidden_inside = false; }
   bool inside(const segment& s) const override;
   bool inside(const location& l) const override;
+  std::vector<point> hit_segment(const point& a, const point& b) const override;
+  std::vector<point> hit_polygon(const polygon& p) const override;
+  double barrier_objective(const std::list<location>&, const point&) const override { return 0.0; }
+
+  bool forbidden_inside = false;
+};
+
+class restr_polygon : public forbidden_region {
+ public:
+  using forbidden_region::hit_segment;
+  using forbidden_region::inside;
+  // The ring through the points, stored clockwise. Fewer than 3 vertices: 1402; two consecutive
+  // equal vertices: 1403; last equal to first: 1404.
+  explicit restr_polygon(const std::vector<point>& points);
+
+  int shape() const override { return 0; }
   bool inside(const point& p) const override;
   std::vector<point> hit_ray(const point& a, const point& b) const override;
-  std::vector<point> hit_segment(const point& a, const point& b) const override;
   std::vector<point> hit_circle(const circle& c) const override;
-  std::vector<point> hit_polygon(const polygon& p) const override;
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
-  double barrier_objective(const std::list<location>&, const point&) const override { return 0.0; }
   std::list<location> proj_l2sqr(const location& p) const override;
   double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
 
@@ -103,32 +116,24 @@ class restr_polygon : public restriction {
   bool is_convex() const;
 
   std::vector<segment> edges;
-  bool forbidden_inside = false;
 };
 
-class restr_rectangle : public restriction {
+class restr_rectangle : public forbidden_region {
  public:
+  using forbidden_region::hit_segment;
+  using forbidden_region::inside;
   // Corners (x, y), (x, y + h), (x + w, y + h), (x + w, y), the last three turned about the
   // first by angle radians counter-clockwise.
   restr_rectangle(const point& corner, double width, double height, double angle);
   // The four corners in ring order; dims are the lengths of the first two sides.
   restr_rectangle(const point& c0, const point& c1, const point& c2, const point& c3);
 
-  int kind() const override { return 0; }
   int shape() const override { return 1; }
-  bool is_forbidden_inside() const override { return forbidden_inside; }
-  void set_forbidden_inside() override { forbidden_inside = true; }
-  void set_forbidden_outside() override { forbidden_inside = false; }
-  bool inside(const segment& s) const override;
-  bool inside(const location& l) const override;
   bool inside(const point& p) const override;
   std::vector<point> hit_ray(const point& a, const point& b) const override;
-  std::vector<point> hit_segment(const point& a, const point& b) const override;
   std::vector<point> hit_circle(const circle& c) const override;
-  std::vector<point> hit_polygon(const polygon& p) const override;
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
-  double barrier_objective(const std::list<location>&, const point&) const override { return 0.0; }
   std::list<location> proj_l2sqr(const location& p) const override;
   double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
 
@@ -136,33 +141,26 @@ class restr_rectangle : public restriction {
 
   std::vector<point> corners;  // exactly 4
   std::vector<double> dims;    // width, height
-  bool forbidden_inside = false;
 };
 
-class restr_circle : public restriction {
+class restr_circle : public forbidden_region {
  public:
+  using forbidden_region::hit_segment;
+  using forbidden_region::inside;
   restr_circle(const point& centre, double radius);
 
-  int kind() const override { return 0; }
   int shape() const override { return 2; }
-  bool is_forbidden_inside() const override { return forbidden_inside; }
-  void set_forbidden_inside() override { forbidden_inside = true; }
-  void set_forbidden_outside() override { forbidden_inside = false; }
-  bool inside(const segment& s) const override;
-  bool inside(const location& l) const override;
   bool inside(const point& p) const override;
   std::vector<point> hit_ray(const point& a, const point& b) const override;
-  std::vector<point> hit_segment(const point& a, const point& b) const override;
   std::vector<point> hit_circle(const circle& c) const override;
-  std::vector<point> hit_polygon(const polygon& p) const override;
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
-  double barrier_objective(const std::list<location>&, const point&) const override { return 0.0; }
   std::list<location> proj_l2sqr(const location& p) const override;
+
+  std::vector<point> hit_segment(const point& a, const point& b) const override;
 
   point center;
   double radius;
-  bool forbidden_inside = false;
 };
 
 // The three barriers share the answers that no barrier gives: none of them contains a segment,
