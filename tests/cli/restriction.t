@@ -81,7 +81,14 @@ work with a circle.
   MERO error: Not implemented for this kind of restriction. ErrorCode: 1411
   [1]
 
-Nor with a polygon that is not convex.
+Nor with a polygon that is not convex. The restricted lp median walks along the edges of a
+polygon or rectangle; a circle has none, and the run says so with the same text. (A circle of
+radius 1.5 about (2, 2) holds all of the Euclidean medians, the segment AB.)
+
+  $ printf 'begin {restriction}\nbegin {circle}\n2 2 1.5\nend {circle}\nend {restriction}\n' > wide.restr
+  $ solve -a lp_sum -p 2 -l pair.loc -r wide.restr
+  MERO error: The restriction for this algorithm must be a convex polyeder ErrorCode: 1405
+  [1]
 
   $ printf 'begin {restriction}\nbegin {polyhedron}\n0 0\n0 4\n2 3\n4 4\n4 0\nend {polyhedron}\nend {restriction}\n' > notch.restr
   $ solve -a in_l2_max -l pair.loc -r notch.restr
