@@ -12,6 +12,7 @@
 #include "kernel/matrix.h"
 #include "model/facilities.h"
 #include "network/location_graph.h"
+#include "network/multicriteria.h"
 
 namespace mero {
 
@@ -29,6 +30,7 @@ struct run_context {
   matrix new_facility_costs;       // the dependency matrix of multifacility problems (-m)
   discrete_problem discrete;       // the data and result of discrete problems (-d first)
   location_graph graph;            // the graph of network problems (-g), with their optima
+  pareto_result pareto;            // the pieces and vectors of multicriteria problems (140-157)
 };
 
 }  // namespace mero
