@@ -39,25 +39,25 @@ double on_segment(const edge_stretch& e, double x) {
   return l[1] + (x - l[0]) * (r[1] - l[1]) / (r[0] - l[0]);
 }
 
-// How one element bounds the second objective beyond x: along its segment where it covers x
-// (cover), otherwise at the level of its right end.
+// How one element bounds the second objective over a range of first objective: along its
+// segment where it covers the range (cover), otherwise at the level of its right end.
 struct bound {
   const edge_stretch* e;
   bool cover;
   double at(double x) const { return cover ? on_segment(*e, x) : right(*e)[1]; }
 };
 
-// The elements that may bound the chain at first objective x: those starting at or before x
-// that cover it, and the last one starting at or before x (on a chain the later elements are
-// the lower ones, so no earlier gap matters). Elements only touch at equal points.
-std::vector<bound> bounds_at(const chain_view& chain, double x) {
+// The elements that may bound the chain over [x, x_end]: those starting at or before x that
+// reach x, and the last one starting at or before x (on a chain the later elements are the
+// lower ones, so no earlier gap matters). Elements only touch at equal points.
+std::vector<bound> bounds_over(const chain_view& chain, double x, double x_end) {
   const std::vector<edge_stretch>& c = chain.elements;
   auto it = std::upper_bound(c.begin(), c.end(), x,
                              [](double v, const edge_stretch& e) { return v < left(e)[0]; });
   std::vector<bound> found;
   for (auto i = it - c.begin() - 1; i >= 0; --i) {
-    const bool cover = right(c[i])[0] >= x;
-    if (cover || i == it - c.begin() - 1) found.push_back({&c[i], cover});
+    if (right(c[i])[0] >= x || i == it - c.begin() - 1)
+      found.push_back({&c[i], right(c[i])[0] >= x_end});
     if (i > 0 && chain.reach[i - 1] < x) break;
   }
   return found;
@@ -66,7 +66,7 @@ std::vector<bound> bounds_at(const chain_view& chain, double x) {
 // Whether a chain point dominates the vector p: one on a covering segment that is lower, or an
 // end further left that is not higher.
 bool point_dominated(const vector& p, const chain_view& chain) {
-  for (const bound& b : bounds_at(chain, p[0]))
+  for (const bound& b : bounds_over(chain, p[0], p[0]))
     if (b.cover ? b.at(p[0]) < p[1] : b.at(p[0]) <= p[1]) return true;
   return false;
 }
@@ -80,7 +80,7 @@ struct span {
 // along, and its difference to a is linear.
 void free_span(const edge_stretch& a, double x0, double x1, const chain_view& chain,
                std::vector<span>& spans) {
-  const std::vector<bound> candidates = bounds_at(chain, x0);
+  const std::vector<bound> candidates = bounds_over(chain, x0, x1);
   if (candidates.empty()) {
     spans.push_back({x0, x1});
     return;
