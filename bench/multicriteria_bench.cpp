@@ -1,8 +1,10 @@
 // Times the Pareto routines of networks on one graph file whose nodes get Q random integer
-// weights LOW..HIGH (seed fixed by the arguments), and prints the number of pieces found, how
-// many of them are nodes, and the seconds of the routine (repair, distances and pruning).
+// weights LOW..HIGH, negative ones taken as 0 (so a LOW below 0 gives sparse demands; the seed
+// is an argument), and prints the number of pieces found, how many of them are nodes, and the
+// seconds of the routine (repair, distances and pruning; reading excluded).
 // Usage: multicriteria_bench GRAPH Q ROUTE SEED LOW HIGH, ROUTE general, bicriteria or nodes.
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -31,7 +33,7 @@ int main(int argc, char** argv) {
   std::uniform_int_distribution<int> weight(low, high);
   for (node v = g.first_node(); v != nullptr; v = graph::succ_node(v)) {
     node_weights w;
-    for (int q = 0; q < q_count; ++q) w.weights.push_back(weight(rng));
+    for (int q = 0; q < q_count; ++q) w.weights.push_back(std::max(0, weight(rng)));
     g.assign(v, w);
   }
   const auto start = std::chrono::steady_clock::now();
