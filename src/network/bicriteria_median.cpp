@@ -99,8 +99,8 @@ void free_span(const edge_stretch& a, double x0, double x1, const chain_view& ch
 }
 
 // a's pieces that the chain does not dominate, with positions and vectors taken anew.
-void clip(const sum_objectives& objectives, const edge_stretch& a,
-          const chain_view& chain, std::vector<edge_stretch>& out) {
+void clip(const sum_objectives& objectives, const edge_stretch& a, const chain_view& chain,
+          std::vector<edge_stretch>& out) {
   const double l0 = left(a)[0], r0 = right(a)[0];
   if (l0 == r0) {
     if (!point_dominated(left(a), chain)) out.push_back(a);
@@ -117,8 +117,10 @@ void clip(const sum_objectives& objectives, const edge_stretch& a,
     std::vector<span> found;
     free_span(a, xs[k], xs[k + 1], chain, found);
     for (const span& s : found)
-      if (!spans.empty() && spans.back().x1 >= s.x0) spans.back().x1 = s.x1;
-      else spans.push_back(s);
+      if (!spans.empty() && spans.back().x1 >= s.x0)
+        spans.back().x1 = s.x1;
+      else
+        spans.push_back(s);
   }
   const double s_left = left_is_from(a) ? a.from : a.to, s_right = left_is_from(a) ? a.to : a.from;
   auto position = [&](double x) {

@@ -79,9 +79,12 @@ struct range {
 range feasible_range(const vector& c, const vector& g) {
   range r{false, 0.0, 1.0};
   for (int q = 0; q < c.dim(); ++q) {
-    if (g[q] > 0.0) r.hi = std::min(r.hi, -c[q] / g[q]);
-    else if (g[q] < 0.0) r.lo = std::max(r.lo, -c[q] / g[q]);
-    else if (c[q] > 0.0) return {};
+    if (g[q] > 0.0)
+      r.hi = std::min(r.hi, -c[q] / g[q]);
+    else if (g[q] < 0.0)
+      r.lo = std::max(r.lo, -c[q] / g[q]);
+    else if (c[q] > 0.0)
+      return {};
   }
   if (r.lo > r.hi) return {};
   return r;
@@ -108,8 +111,8 @@ range weakly_dominated_range(const edge_stretch& a, const edge_stretch& b) {
   }
   const std::vector<double> lower{0, 0, 0}, upper{0, 1, 1}, objective{0, 1, 0};
   bool found = false;
-  const auto least = solve_two_variable_model(rows, rhs, ca, cb, lower, upper, objective, false,
-                                              &found);
+  const auto least =
+      solve_two_variable_model(rows, rhs, ca, cb, lower, upper, objective, false, &found);
   if (!found) return {};
   const auto greatest =
       solve_two_variable_model(rows, rhs, ca, cb, lower, upper, objective, true, &found);
@@ -138,8 +141,8 @@ bool end_dominates_all(const edge_stretch& a, const edge_stretch& b) {
 // is only equalled, the two stretches coincide there and nothing is cut.
 std::vector<edge_stretch> cut_by(const edge_stretch& a, const edge_stretch& b) {
   if (out_of_reach(a, b)) return {a};
-  if (a.is_point()) return dominated_by(a.at_from, b) ? std::vector<edge_stretch>{}
-                                                      : std::vector<edge_stretch>{a};
+  if (a.is_point())
+    return dominated_by(a.at_from, b) ? std::vector<edge_stretch>{} : std::vector<edge_stretch>{a};
   if (end_dominates_all(a, b)) return {};
   const range r = weakly_dominated_range(a, b);
   if (r.empty) return {a};
@@ -193,7 +196,8 @@ std::vector<edge_stretch> prune_pieces(const std::vector<edge_stretch>& pieces) 
   return survivors;
 }
 
-std::vector<edge_stretch> network_stretches(location_graph& copy, const sum_objectives& objectives) {
+std::vector<edge_stretch> network_stretches(location_graph& copy,
+                                            const sum_objectives& objectives) {
   std::vector<edge_stretch> pieces;
   const pareto_result nodes = pareto_nodes(copy, false, false, false);
   for (const pareto_piece& p : nodes.pieces) {

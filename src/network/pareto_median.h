@@ -61,8 +61,7 @@ std::vector<edge_stretch> prune_pieces(const std::vector<edge_stretch>& pieces);
 // stretches as pieces, nodes by number first, then edges by end nodes, edge and position, with
 // positions as fractions of the edge.
 edge_stretch best_end(const edge_stretch& a);
-std::vector<edge_stretch> network_stretches(location_graph& copy,
-                                            const sum_objectives& objectives);
+std::vector<edge_stretch> network_stretches(location_graph& copy, const sum_objectives& objectives);
 bool at_edge_end(const edge_stretch& a);
 pareto_result pareto_output(std::vector<edge_stretch> stretches);
 

@@ -68,8 +68,7 @@ TEST(multicriteria, whole_edges_of_dir_cenPareto_and_medLexi) {
   EXPECT_EQ(cen.pieces, (std::list<pareto_piece>{{0, 0, 0, 0}, {1, 1, 0, 0}}));
   location_graph once = undirected_form(criteria_graph({{1, 1}, {1, 1}}, {{0, 1, 2}}));
   pareto_result lex = lexi_solve(once, false, true, false);
-  EXPECT_EQ(lex.pieces,
-            (std::list<pareto_piece>{{0, 0, 0, 0}, {1, 1, 0, 0}, {0, 1, 0, 1}}));
+  EXPECT_EQ(lex.pieces, (std::list<pareto_piece>{{0, 0, 0, 0}, {1, 1, 0, 0}, {0, 1, 0, 1}}));
   EXPECT_EQ(lex.at_to.back(), (vector{2, 2}));
   // loc_medLexi: nodes only
   EXPECT_EQ(lexi_solve(once, false, false, false).pieces.size(), 2u);
@@ -115,8 +114,8 @@ TEST(multicriteria, pareto_and_lexicographic_nodes_agree_with_enumeration) {
     for (int x = 0; x < n; ++x) {
       bool dominated = false;
       for (int o = 0; o < n; ++o)
-        dominated = dominated || (f[o] != f[x] && std::equal(f[o].begin(), f[o].end(),
-                                                             f[x].begin(), std::less_equal<>()));
+        dominated = dominated || (f[o] != f[x] && std::equal(f[o].begin(), f[o].end(), f[x].begin(),
+                                                             std::less_equal<>()));
       if (!dominated) pareto.push_back(x);
     }
     std::vector<int> order(q_count);

@@ -29,7 +29,7 @@ inline vector to_vector(const std::vector<double>& v) {
 // common; loops and all but the first of parallel edges are dropped, since a piece names its
 // edge by the two ends.
 inline location_graph random_graph(std::mt19937& rng, int n, int q_count,
-                            std::vector<std::vector<double>>& w, std::vector<arc>& arcs) {
+                                   std::vector<std::vector<double>>& w, std::vector<arc>& arcs) {
   w.assign(n, {});
   for (auto& node : w)
     for (int q = 0; q < q_count; ++q) node.push_back(rng() % 4);

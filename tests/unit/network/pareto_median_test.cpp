@@ -83,9 +83,12 @@ std::vector<sample> reported_points(const reference& ref, const pareto_result& r
     if (p.first == p.second) {
       // a node: the end of any edge at it
       for (std::size_t e = 0; e < ref.arcs.size(); ++e) {
-        if (ref.arcs[e].from == p.first) points.push_back({-1, 0, ref.at(e, 0)});
-        else if (ref.arcs[e].to == p.first) points.push_back({-1, 0, ref.at(e, ref.arcs[e].length)});
-        else continue;
+        if (ref.arcs[e].from == p.first)
+          points.push_back({-1, 0, ref.at(e, 0)});
+        else if (ref.arcs[e].to == p.first)
+          points.push_back({-1, 0, ref.at(e, ref.arcs[e].length)});
+        else
+          continue;
         break;
       }
       continue;
@@ -118,9 +121,8 @@ void check_against_samples(const reference& ref, const pareto_result& r, const c
   for (const sample& p : reported_points(ref, r, 7, false))
     for (const sample& s : network)
       ASSERT_FALSE(clearly_dominates(s.value, p.value, 1e-7))
-          << route << " round " << round << ": a point of edge " << s.edge << " at "
-          << s.position << " dominates the reported point of edge " << p.edge << " at "
-          << p.position;
+          << route << " round " << round << ": a point of edge " << s.edge << " at " << s.position
+          << " dominates the reported point of edge " << p.edge << " at " << p.position;
   const std::vector<sample> fine = reported_points(ref, r, 200, true);
   for (const sample& s : network) {
     bool covered = false;
@@ -198,13 +200,36 @@ TEST(pareto_median, hand_cases) {
             (std::list<pareto_piece>{
                 {0, 0, 0, 0}, {1, 1, 0, 0}, {2, 2, 0, 0}, {0, 1, 0, 1}, {1, 2, 0, 1}}));
   // A node that dominates all: weights only at node 1 of the path: node 1 alone.
-  location_graph star = undirected_form(
-      testing::criteria_graph({{0, 0}, {1, 1}, {0, 0}}, {{0, 1, 2}, {1, 2, 2}}));
+  location_graph star =
+      undirected_form(testing::criteria_graph({{0, 0}, {1, 1}, {0, 0}}, {{0, 1, 2}, {1, 2, 2}}));
   EXPECT_EQ(pareto_median(star).pieces, (std::list<pareto_piece>{{1, 1, 0, 0}}));
   EXPECT_EQ(bicriteria_median(star).pieces, (std::list<pareto_piece>{{1, 1, 0, 0}}));
   // The two-criteria route takes two criteria only.
   EXPECT_REPORT(bicriteria_median(path), 2003,
                 "This algorihm does not solve this kind of problem, sorry ;-)");
+}
+
+// merge_pareto on chains made by hand over one edge of length 10 whose objectives are
+// (s, 10 - s): a point on the segment stays beside it, a point below it cuts the part it
+// dominates, and a covering segment bounds a point even behind an equal point of its own chain.
+TEST(pareto_median, merge_pareto_by_hand) {
+  location_graph edge = undirected_form(testing::criteria_graph({{1, 0}, {0, 1}}, {{0, 1, 10}}));
+  const sum_objectives objectives(edge);
+  const edge_stretch whole{0, 0, 1, 10, 0, 10, {0, 10}, {10, 0}};
+  auto point = [](double f1, double f2) {
+    return edge_stretch{-1, 5, 5, 0, 0, 0, {f1, f2}, {f1, f2}};
+  };
+  auto spans = [](const std::vector<edge_stretch>& chain) {
+    std::vector<std::pair<double, double>> found;
+    for (const edge_stretch& e : chain) found.push_back({e.from, e.to});
+    return found;
+  };
+  using spans_t = std::vector<std::pair<double, double>>;
+  EXPECT_EQ(spans(merge_pareto(objectives, {whole}, {point(5, 5)})), (spans_t{{0, 10}, {0, 0}}));
+  EXPECT_EQ(spans(merge_pareto(objectives, {whole}, {point(5, 4)})),
+            (spans_t{{0, 5}, {0, 0}, {6, 10}}));
+  EXPECT_EQ(merge_pareto(objectives, {whole, point(5, 5)}, {point(7, 3.5)}).size(), 2u);
+  EXPECT_EQ(merge_pareto(objectives, {point(7, 3.5)}, {whole, point(5, 5)}).size(), 2u);
 }
 
 }  // namespace
