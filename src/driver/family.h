@@ -21,6 +21,7 @@ struct family_case {
 std::vector<family_case> planar_cases();
 std::vector<family_case> multifacility_cases();
 std::vector<family_case> network_cases();
+std::vector<family_case> multicriteria_cases();
 std::vector<family_case> discrete_cases();
 std::vector<family_case> restriction_cases();
 

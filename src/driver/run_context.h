@@ -12,6 +12,7 @@
 #include "kernel/matrix.h"
 #include "model/facilities.h"
 #include "network/location_graph.h"
+#include "network/multicriteria.h"
 #include "restriction/restriction.h"
 
 namespace mero {
@@ -31,6 +32,7 @@ struct run_context {
   discrete_problem discrete;       // the data and result of discrete problems (-d first)
   location_graph graph;            // the graph of network problems (-g), with their optima
   restriction_list restrictions;   // the figures of the -r file, for restricted problems
+  pareto_result pareto;            // the pieces and vectors of multicriteria problems (140-157)
 };
 
 }  // namespace mero

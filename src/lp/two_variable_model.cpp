@@ -9,7 +9,8 @@ namespace mero {
 std::array<double, 3> solve_two_variable_model(
     int rows, const std::vector<double>& rhs, const std::vector<double>& a1,
     const std::vector<double>& a2, const std::vector<double>& lower,
-    const std::vector<double>& upper, const std::vector<double>& objective, bool maximise) {
+    const std::vector<double>& upper, const std::vector<double>& objective, bool maximise,
+    bool* optimal) {
   assert(static_cast<int>(rhs.size()) > rows && static_cast<int>(a1.size()) > rows &&
          static_cast<int>(a2.size()) > rows);
   assert(lower.size() > 2 && upper.size() > 2 && objective.size() > 2);
@@ -26,7 +27,8 @@ std::array<double, 3> solve_two_variable_model(
     set_upbo(lp.get(), col, upper[col]);
   }
   if (maximise) set_maxim(lp.get());
-  solve(lp.get());
+  const int status = solve(lp.get());
+  if (optimal) *optimal = status == OPTIMAL || status == PRESOLVED;
   const int model_rows = get_Nrows(lp.get());
   return {lp->best_solution[model_rows + 1], lp->best_solution[model_rows + 2],
           lp->best_solution[0]};

@@ -10,6 +10,8 @@ namespace network_messages {
 
 inline constexpr message negative_cycle{2001, "Negative cycle in graph"};
 inline constexpr message not_adjacent{2002, "The two nodes are not adjazent"};
+inline constexpr message unsupported_problem{
+    2003, "This algorihm does not solve this kind of problem, sorry ;-)"};
 inline constexpr message not_a_tree{2201, "Graph is not a tree :-)"};
 
 inline constexpr message adjacency_writer_open{2103, "Can't open file !"};
@@ -27,6 +29,10 @@ inline constexpr message center_not_connected{
     0, "Graph is not strictly connected: MERO could connect it"};
 inline constexpr message multicriteria_not_connected{
     0, "Graph is not connected: MERO is could connect it"};
+
+// Written on standard output by the Pareto merge of two criteria when its chains are not
+// monotone, a state it should never reach; the run goes on.
+inline constexpr const char* merge_internal_state = "error, bitte bei Marel melden ;-)";
 
 // The kernel's check of a list's head, which an empty weight list of a node meets.
 inline constexpr const char* empty_weights = "dlist::head(): empty list";

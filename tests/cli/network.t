@@ -17,13 +17,7 @@ absolute center lies 0.7 of the way from Carden to Dunmore at 8.4.
 
 From here on each run shows the name, classification, value and points of its report on one line.
 
-  $ set -o pipefail
-  $ solve() {
-  >   printf '%s: ' "$1"
-  >   $MERO -a "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|graphpointset\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/graph_report_line.sh
   $ for a in loc_undir_median abs_undir_median loc_undir_center loc_undir_v1_center \
   >          abs_undir_center abs_undir_v1_center; do
   >   solve $a -g $EXAMPLES/road_network.graph
