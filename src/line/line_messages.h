@@ -1,0 +1,16 @@
+#pragma once
+// The texts and codes that line location reports, in one place so that the solvers and their
+// tests read the same words.
+
+#include "kernel/reporters.h"
+
+namespace mero::line_messages {
+
+// The distance to a line is measured in the dual norm of lp; p must name a norm (p >= 1, or -1
+// for the maximum norm), as the lp solvers of single points ask.
+inline constexpr message lp_sum_exponent{
+    1360, "facilities::L_lp_sum_M3(): p must be at least 1, or -1 for the maximum norm."};
+inline constexpr message lp_max_exponent{
+    1361, "facilities::L_lp_max_M4(): p must be at least 1, or -1 for the maximum norm."};
+
+}  // namespace mero::line_messages
