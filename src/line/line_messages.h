@@ -2,7 +2,7 @@
 // The texts and codes that line location reports, in one place so that the solvers and their
 // tests read the same words.
 
-#include "kernel/reporters.h"
+#include "kernel/message.h"
 
 namespace mero::line_messages {
 
