@@ -63,10 +63,6 @@ TEST(line_max, triple_loops_match_the_brute_force_over_triples) {
     EXPECT_NEAR(value, brute_triple_max(f, lp(p)), 1e-7 * value) << p;
     EXPECT_NEAR(reported_objective(f, lp(p), false), value, 1e-7 * value) << p;
   }
-  facilities f = random_problem(60, 8);
-  EXPECT_NEAR(f.L_lp_max_M4(2), f.L_l2_max_M4(), 1e-9);
-  EXPECT_NEAR(f.L_lp_max_M4(1), f.L_l1_max_M4(), 1e-9);
-  EXPECT_NEAR(f.L_lp_max_M4(-1), f.L_linf_max_M4(), 1e-9);
 }
 
 // For the Euclidean distance the triples hold an optimum: no direction of a fine grid with its

@@ -48,7 +48,7 @@ TEST(line_sum, no_line_of_any_direction_is_better) {
     }
 }
 
-TEST(line_sum, lp_loop_matches_brute_force_and_the_special_norms) {
+TEST(line_sum, lp_loop_matches_the_brute_force_over_pairs) {
   for (int p : {3, 5}) {
     facilities f = random_problem(20 + p, 8);
     const double value = f.L_lp_sum_M3(p);
@@ -56,10 +56,22 @@ TEST(line_sum, lp_loop_matches_brute_force_and_the_special_norms) {
     EXPECT_NEAR(value, brute, 1e-7 * brute) << p;
     EXPECT_NEAR(reported_objective(f, lp(p), true), value, 1e-7 * brute) << p;
   }
-  facilities f = random_problem(30, 9);
-  EXPECT_NEAR(f.L_lp_sum_M3(2), f.L_l2_sum_M3(), 1e-9);
-  EXPECT_NEAR(f.L_lp_sum_M3(1), f.L_l1_sum_M3(), 1e-9);
-  EXPECT_NEAR(f.L_lp_sum_M3(-1), f.L_linf_sum_M3(), 1e-9);
+}
+
+// p = 2, 1 and -1 are the Euclidean, rectilinear and maximum norms, for the sum and the max.
+TEST(line_lp, special_exponents_give_the_special_norms) {
+  struct special {
+    int p;
+    double (facilities::*sum)();
+    double (facilities::*max)();
+  };
+  for (const special& s : {special{2, &facilities::L_l2_sum_M3, &facilities::L_l2_max_M4},
+                           special{1, &facilities::L_l1_sum_M3, &facilities::L_l1_max_M4},
+                           special{-1, &facilities::L_linf_sum_M3, &facilities::L_linf_max_M4}}) {
+    facilities f = random_problem(30, 8);
+    EXPECT_NEAR(f.L_lp_sum_M3(s.p), (f.*s.sum)(), 1e-9) << s.p;
+    EXPECT_NEAR(f.L_lp_max_M4(s.p), (f.*s.max)(), 1e-9) << s.p;
+  }
 }
 
 TEST(line_sum, lp_loop_needs_a_norm) {
