@@ -77,7 +77,7 @@ double l1_largest(const std::vector<weighted_point>& points, const point_pair& l
 // Euclidean max, weight column 0, O(n^4): every triple in its three roles. optima receives two
 // points of the line with weight entry 0 = 0.0. Fewer than three locations: value 1e50, no line.
 double facilities::L_l2_max_M4() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const line_choice best =
       best_triple_line(points, [&](const point_pair& l) { return l2_largest(points, l); });
   optima_ = max_line_points(best);
@@ -86,7 +86,7 @@ double facilities::L_l2_max_M4() {
 
 // Rectilinear max, O(n^4): the triple loop with the smaller axis distance. As L_l2_max_M4.
 double facilities::L_l1_max_M4() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const line_choice best =
       best_triple_line(points, [&](const point_pair& l) { return l1_largest(points, l); });
   optima_ = max_line_points(best);
@@ -107,7 +107,7 @@ double facilities::L_linf_max_M4() {
 // lp max, O(n^4): the triple loop with lp_line_distance. p below 1 other than -1: error 1361.
 double facilities::L_lp_max_M4(int p) {
   if (p < 1 && p != -1) report_error(line_messages::lp_max_exponent);
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const line_choice best = best_triple_line(points, [&](const point_pair& l) {
     double largest = 0.0;
     for (const weighted_point& b : points)
@@ -169,7 +169,7 @@ weighted_point located(const std::vector<weighted_point>& points, const point& p
 // that line with weight entry 0 = 0.0. Fewer than three locations or all on one spot: value 1e50,
 // no line.
 double facilities::L_l2_v1_max() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   line_choice best;
   const narrowest n = narrowest_edge(points);
   if (points.size() >= 3 && n.height < 1e50) {
@@ -187,7 +187,7 @@ double facilities::L_l2_v1_max() {
 // is how this method has always measured (with equal weights it is the half-width all the same,
 // since three locations on both sides of the line attain it). Degenerate input as L_l2_v1_max.
 double facilities::L_l2_max_M2logM() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   line_choice best;
   const narrowest n = narrowest_edge(points);
   if (points.size() >= 3 && n.height < 1e50) {

@@ -13,4 +13,9 @@ inline constexpr message lp_sum_exponent{
 inline constexpr message lp_max_exponent{
     1361, "facilities::L_lp_max_M4(): p must be at least 1, or -1 for the maximum norm."};
 
+// Infinite or undefined coordinates (a number too large for a double in the file) leave the
+// angles and sides of the candidate lines undefined.
+inline constexpr message not_finite{
+    1362, "Line location: every coordinate and weight must be a finite number."};
+
 }  // namespace mero::line_messages

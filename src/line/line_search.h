@@ -17,6 +17,10 @@ struct pair_choice {
   int j = -1;
 };
 
+// Coordinates 0 and 1 and weight column 0 of every location, in list order; a coordinate or
+// weight that is not finite ends the run with error 1362.
+std::vector<weighted_point> line_points_of(const std::list<location>& list);
+
 // True when the two points coincide: no line runs through them, and the pair is skipped.
 inline bool same_place(const weighted_point& a, const weighted_point& b) {
   return a.x == b.x && a.y == b.y;

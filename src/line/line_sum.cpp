@@ -2,6 +2,7 @@
 // locations (Wesolowsky 1975 for the Euclidean case, Morris and Norback 1980 for lp), so every
 // pair's line is evaluated in O(n), O(n^3) in all.
 
+#include <cmath>
 #include <iterator>
 
 #include "kernel/reporters.h"
@@ -10,6 +11,14 @@
 #include "model/facilities.h"
 
 namespace mero {
+
+std::vector<weighted_point> line_points_of(const std::list<location>& list) {
+  std::vector<weighted_point> points = weighted_points(list, 0);
+  for (const weighted_point& p : points)
+    if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.w))
+      report_error(line_messages::not_finite);
+  return points;
+}
 
 double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j, double bound) {
   const unit_direction u(points[i], points[j]);
@@ -33,7 +42,7 @@ std::list<location> pair_line_points(const std::list<location>& list, const pair
 // Euclidean sum, O(n^3): all pairs i < j, the first pair of the least sum. Coincident locations
 // give no line and are skipped. Fewer than two distinct locations: value 1e50, no line.
 double facilities::L_l2_sum_M3() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const pair_choice best = best_pair_line(points, [&](int i, int j) {
     const unit_direction u(points[i], points[j]);
     return [&, i, u](int k) { return l2_line_distance(points[i], u, points[k]) * points[k].w; };
@@ -45,7 +54,7 @@ double facilities::L_l2_sum_M3() {
 // Rectilinear sum, O(n^3): the pair loop with the smaller axis distance; the two locations of the
 // pair are left out of their own sum. Degenerate input as for L_l2_sum_M3.
 double facilities::L_l1_sum_M3() {
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const pair_choice best = best_pair_line(points, [&](int i, int j) {
     const double vx = points[j].x - points[i].x, vy = points[j].y - points[i].y;
     return [&, i, j, vx, vy](int k) {
@@ -73,7 +82,7 @@ double facilities::L_linf_sum_M3() {
 // error 1360.
 double facilities::L_lp_sum_M3(int p) {
   if (p < 1 && p != -1) report_error(line_messages::lp_sum_exponent);
-  const std::vector<weighted_point> points = weighted_points(*this, 0);
+  const std::vector<weighted_point> points = line_points_of(*this);
   const pair_choice best = best_pair_line(points, [&](int i, int j) {
     return [&, i, j](int k) {
       return lp_line_distance(points[i], points[j], points[k], p) * points[k].w;

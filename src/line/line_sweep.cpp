@@ -206,7 +206,8 @@ class windmill {
       on_line.push_back({along, k});
       if (along > 0.0) ++ahead;
     }
-    std::sort(on_line.begin(), on_line.end());
+    // stable_sort stays within the range even if an overflow made some keys undefined.
+    std::stable_sort(on_line.begin(), on_line.end());
     pivot_ = on_line[ahead].second;
   }
 };
@@ -218,7 +219,7 @@ class windmill {
 // pair with weight entry 0 = 1.0. Exactly two locations: the line through them, value 0.0.
 // Coincident locations break the pivot rule; those sets take the sorted sweep with equal weights.
 double facilities::L_l2_sum_M2() {
-  std::vector<weighted_point> points = weighted_points(*this, 0);
+  std::vector<weighted_point> points = line_points_of(*this);
   for (weighted_point& p : points) p.w = 1.0;
   pair_choice best;
   if (points.size() == 2) {
@@ -237,7 +238,7 @@ double facilities::L_l2_sum_M2() {
 // sides kept as running sums, so that each halving line through the pivot costs O(1). optima
 // receives the pair as L_l2_sum_M3 does; no two distinct locations: value 1e50, no line.
 double facilities::L_l2_sum_M2logM() {
-  const pair_choice best = best_halving_line(weighted_points(*this, 0));
+  const pair_choice best = best_halving_line(line_points_of(*this));
   optima_ = pair_line_points(*this, best);
   return best.value;
 }

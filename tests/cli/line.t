@@ -63,13 +63,17 @@ side of the first two locations) stays. The lp max problem says "sum" in its lab
   1L|P|.|l3|sum 1.07445 2 0  0 1.5 
 
 Two locations: every sum runs through them at 0; the max problems have no triple, value 1e50 and
-no line. An lp run without a norm stops.
+no line. A coordinate beyond the range of doubles, and an lp run without a norm, stop.
 
   $ printf 'begin {location}\n1 2 1\n3 7 1\nend\n' > two.loc
   $ solve -a L_l2_sum_M2 -l two.loc
   1L|P|v=1|l2|sum 0 1 2  3 7 
   $ solve -a L_l2_max_M4 -l two.loc
   1L|P|.|l2|max: M4 1e+50
+  $ printf 'begin {location}\n1e999 0 1\n1 1 1\n2 5 1\nend\n' > huge.loc
+  $ $MERO -a L_l2_sum_M2 -l huge.loc --output=nowindowed
+  MERO error: Line location: every coordinate and weight must be a finite number. ErrorCode: 1362
+  [1]
   $ printf '0 0.0001 0.0001 50' > lpinfo
   $ $MERO -a L_lp_sum_M3 -p 0 -l $T --output=nowindowed
   MERO error: facilities::L_lp_sum_M3(): p must be at least 1, or -1 for the maximum norm. ErrorCode: 1360

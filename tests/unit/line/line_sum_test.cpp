@@ -74,6 +74,15 @@ TEST(line_lp, special_exponents_give_the_special_norms) {
   }
 }
 
+TEST(line_sum, coordinates_must_be_finite) {
+  facilities f = problem({at(0, 0), at(HUGE_VAL, 1), at(0, 1)});
+  EXPECT_REPORT(f.L_l2_sum_M2logM(), 1362,
+                "Line location: every coordinate and weight must be a finite number.");
+  facilities g = problem({at(0, 0), at(1, 1, std::nan("")), at(0, 1)});
+  EXPECT_REPORT(g.L_l2_max_M4(), 1362,
+                "Line location: every coordinate and weight must be a finite number.");
+}
+
 TEST(line_sum, lp_loop_needs_a_norm) {
   for (int p : {0, -2}) {
     facilities f = problem({at(0, 0), at(1, 0), at(0, 1)});
