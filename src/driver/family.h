@@ -24,6 +24,7 @@ std::vector<family_case> network_cases();
 std::vector<family_case> multicriteria_cases();
 std::vector<family_case> discrete_cases();
 std::vector<family_case> restriction_cases();
+std::vector<family_case> line_cases();
 
 // All cases; a number missing here behaves as a number without a case.
 const std::vector<family_case>& family_cases();

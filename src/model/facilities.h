@@ -118,6 +118,22 @@ class facilities : public std::list<location> {
   double in_l2_max(const restriction_list& restrictions);
   double in_convex_linf_max(const restriction_list& restrictions);
   double in_convex_l1_max(const restriction_list& restrictions);
+  // --- Line location (src/line/line_sum.cpp, line_sweep.cpp, line_max.cpp) ---
+  // optima receives the line as two points on it; weight column 0 is read (L_l2_sum_M2 and
+  // L_l2_v1_max take all weights as equal). The sums keep copies of two locations with weight
+  // entry 0 = 1.0, the max problems two points of the line with weight entry 0 = 0.0.
+  double L_l2_sum_M3();
+  double L_l1_sum_M3();
+  double L_linf_sum_M3();
+  double L_lp_sum_M3(int p);
+  double L_l2_sum_M2logM();
+  double L_l2_sum_M2();
+  double L_l2_max_M4();
+  double L_l1_max_M4();
+  double L_linf_max_M4();
+  double L_lp_max_M4(int p);
+  double L_l2_v1_max();
+  double L_l2_max_M2logM();
 
  protected:
   std::list<location> optima_;

@@ -1,0 +1,56 @@
+#pragma once
+// The candidate walks that the line solvers share: the pair loop of the sums with its early stop,
+// the Euclidean value of a pair's line, and the copies of a pair that become the result.
+
+#include <list>
+#include <vector>
+
+#include "line/line_geometry.h"
+#include "model/location.h"
+
+namespace mero {
+
+// The best line found so far, as the positions of the two locations it runs through.
+struct pair_choice {
+  double value = 1e50;
+  int i = -1;
+  int j = -1;
+};
+
+// Coordinates 0 and 1 and weight column 0 of every location, in list order; a coordinate or
+// weight that is not finite ends the run with error 1362.
+std::vector<weighted_point> line_points_of(const std::list<location>& list);
+
+// True when the two points coincide: no line runs through them, and the pair is skipped.
+inline bool same_place(const weighted_point& a, const weighted_point& b) {
+  return a.x == b.x && a.y == b.y;
+}
+
+// All pairs i < j in list order; line_for_pair(i, j) gives the weighted distance term of each
+// location k for the line through the pair. A walk stops as soon as its running sum reaches
+// best + 1.0 (one above, not the best itself, so that an evaluation is cut short only when it is
+// clearly lost), and only a strictly smaller sum replaces the line: the first pair stays on ties.
+template <typename LineForPair>
+pair_choice best_pair_line(const std::vector<weighted_point>& points, LineForPair line_for_pair) {
+  pair_choice best;
+  const int n = static_cast<int>(points.size());
+  for (int i = 0; i < n; ++i)
+    for (int j = i + 1; j < n; ++j) {
+      if (same_place(points[i], points[j])) continue;
+      const auto term = line_for_pair(i, j);
+      double sum = 0.0;
+      for (int k = 0; k < n && sum < best.value + 1.0; ++k) sum += term(k);
+      if (sum < best.value) best = {sum, i, j};
+    }
+  return best;
+}
+
+// Sum of weight times Euclidean distance from the line through points i and j, with the early
+// stop at bound (1e50 for none).
+double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j, double bound = 1e50);
+
+// Copies of the locations at positions i and j of the list with weight entry 0 = 1.0; empty when
+// no pair was chosen.
+std::list<location> pair_line_points(const std::list<location>& list, const pair_choice& choice);
+
+}  // namespace mero
