@@ -21,6 +21,8 @@ struct family_case {
 std::vector<family_case> planar_cases();
 std::vector<family_case> multifacility_cases();
 std::vector<family_case> network_cases();
+std::vector<family_case> tree_cases();
+std::vector<family_case> n_problem_cases();
 std::vector<family_case> discrete_cases();
 
 // All cases; a number missing here behaves as a number without a case.
