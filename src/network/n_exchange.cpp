@@ -1,5 +1,6 @@
 #include <vector>
 
+#include "kernel/index.h"
 #include "network/n_problem_support.h"
 #include "network/n_problems.h"
 
@@ -25,8 +26,7 @@ int better(int a, double da, int b, double db) {
 
 allocation assign(const n_problem::data& x, const std::vector<int>& f) {
   const int n_new = static_cast<int>(f.size());
-  allocation r{std::vector<int>(static_cast<std::size_t>(x.n)),
-               std::vector<int>(static_cast<std::size_t>(x.n), -1)};
+  allocation r{std::vector<int>(at(x.n)), std::vector<int>(at(x.n), -1)};
   for (int i = 0; i < x.n; ++i) {
     int a = n_new - 1;
     for (int j = n_new - 2; j >= 0; --j)
@@ -66,7 +66,7 @@ double swap_delta(const n_problem::data& x, const std::vector<int>& f, const all
 // One pass over the candidates that are not open: each takes, at once, the ordinal where it
 // gains most, if that gain is positive (the first of equal gains).
 void exchange_pass(const n_problem::data& x, std::vector<int>& f) {
-  std::vector<char> open(static_cast<std::size_t>(x.n), 0);
+  std::vector<char> open(at(x.n), 0);
   for (int v : f) open[v] = 1;
   allocation a = assign(x, f);
   for (int k = 0; k < x.n; ++k) {

@@ -1,5 +1,6 @@
 #include <vector>
 
+#include "kernel/index.h"
 #include "network/graph_center.h"
 #include "network/graph_median.h"
 #include "network/n_problem_support.h"
@@ -53,10 +54,9 @@ graphpointset n_greedy(const location_graph& g, int n_new, n_objective mode, dou
   if (!n_problem::start(g, n_new)) return {};
   const n_problem::data x = n_problem::read(g);
   std::vector<int> f{first_facility(g, mode, value)};
-  nearest_facility near{std::vector<double>(static_cast<std::size_t>(x.n)),
-                        std::vector<int>(static_cast<std::size_t>(x.n))};
+  nearest_facility near{std::vector<double>(at(x.n)), std::vector<int>(at(x.n))};
   near.add(x, f[0], 0);
-  std::vector<char> placed(static_cast<std::size_t>(x.n), 0);
+  std::vector<char> placed(at(x.n), 0);
   placed[f[0]] = 1;
   for (int k = 1; k < n_new; ++k) {
     // The earliest candidate of least objective; if none falls below 1e50, the first one.

@@ -1,5 +1,6 @@
 #include <vector>
 
+#include "kernel/index.h"
 #include "network/graph_center.h"
 #include "network/graph_median.h"
 #include "network/n_problem_support.h"
@@ -19,26 +20,26 @@ int part_facility(const location_graph& g, const std::vector<int>& part, n_objec
                   int current) {
   if (part.empty()) return current;
   location_graph work(g);
-  std::vector<char> inside(static_cast<std::size_t>(g.number_of_nodes()), 0);
-  for (int i : part) inside[static_cast<std::size_t>(i)] = 1;
+  std::vector<char> inside(at(g.number_of_nodes()), 0);
+  for (int i : part) inside[at(i)] = 1;
   std::vector<node> nodes = work.all_nodes();
   for (std::size_t k = 0; k < nodes.size(); ++k)
     if (!inside[k]) work.del_node(nodes[k]);
   double value = 0.0;
   graphpointset best =
       mode == n_objective::sum ? graph_median(work, 'u', value) : node_center(work, value);
-  return part[static_cast<std::size_t>(best.front().first)];
+  return part[at(best.front().first)];
 }
 
 // Each node joins the first facility, in ordinal order, at its least distance.
 parts allocate(const n_problem::data& x, const std::vector<int>& f) {
   const int n_new = static_cast<int>(f.size());
-  std::vector<double> nearest(static_cast<std::size_t>(x.n), network_infinity);
+  std::vector<double> nearest(at(x.n), network_infinity);
   for (int i = 0; i < x.n; ++i)
     for (int j = 0; j < n_new; ++j)
       if (x.d(f[j], i) < nearest[i]) nearest[i] = x.d(f[j], i);
   parts p(f.size());
-  std::vector<char> placed(static_cast<std::size_t>(x.n), 0);
+  std::vector<char> placed(at(x.n), 0);
   for (int j = 0; j < n_new; ++j)
     for (int i = 0; i < x.n; ++i)
       if (x.d(f[j], i) == nearest[i] && !placed[i]) {
@@ -73,9 +74,9 @@ n_problem::solution attempt(const location_graph& g, const n_problem::data& x, s
     objective = objective_of(x, f, p, mode);
     if (!(objective < previous)) break;
   }
-  std::vector<int> assignment(static_cast<std::size_t>(x.n), 0);
+  std::vector<int> assignment(at(x.n), 0);
   for (std::size_t j = 0; j < p.size(); ++j)
-    for (int i : p[j]) assignment[static_cast<std::size_t>(i)] = static_cast<int>(j);
+    for (int i : p[j]) assignment[at(i)] = static_cast<int>(j);
   return {std::move(f), std::move(assignment), objective};
 }
 

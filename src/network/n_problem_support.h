@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "kernel/index.h"
 #include "kernel/matrix.h"
 #include "network/location_graph.h"
 
@@ -17,7 +18,7 @@ struct data {
   matrix d;               // distances of a private copy, unrepaired
   std::vector<double> w;  // head weights in node order
   int n = 0;
-  double cost(int f, int i) const { return d(f, i) * w[static_cast<std::size_t>(i)]; }
+  double cost(int f, int i) const { return d(f, i) * w[at(i)]; }
 };
 data read(const location_graph& g);
 
