@@ -3,7 +3,6 @@
 
 #include "driver/family.h"
 #include "driver/run_context.h"
-#include "kernel/reporters.h"
 #include "network/network_messages.h"
 #include "network/tree_problems.h"
 
@@ -11,36 +10,35 @@ namespace mero {
 
 namespace {
 
-double keep_points(run_context& ctx, graphpointset points, double value) {
-  ctx.graph.optima = std::move(points);
+using tree_solver = graphpointset (*)(const location_graph&, double&);
+
+tree_solver solver_of(int number) {
+  switch (number) {
+    case 104:
+      return tree_median;
+    case 105:
+      return abs_tree_median;
+    case 112:
+      return loc_tree_v1_center;
+    default:
+      return tree_v1_center;
+  }
+}
+
+// 112 and 113 test the graph as read before the tree form is built; 104 and 105 rely on the
+// tree form's own test. The text and code are the same.
+double solve_tree(run_context& ctx, int number) {
+  if ((number == 112 || number == 113) && !is_tree(ctx.graph))
+    report_error(network_messages::not_a_tree);
+  double value = 0.0;
+  ctx.graph.optima = solver_of(number)(tree_form(ctx.graph), value);
   return value;
-}
-
-// 104 and 105 build the tree form, whose constructor tests the graph.
-double solve_tree_median(run_context& ctx, int number) {
-  double value = 0.0;
-  const location_graph tree = tree_form(ctx.graph);
-  graphpointset points = number == 105 ? abs_tree_median(tree, value) : tree_median(tree, value);
-  return keep_points(ctx, std::move(points), value);
-}
-
-// 112 and 113: the run tests the graph as read before it builds the tree form.
-double solve_tree_v1_center(run_context& ctx, int number) {
-  if (!is_tree(ctx.graph)) report_error(network_messages::not_a_tree);
-  double value = 0.0;
-  const location_graph tree = tree_form(ctx.graph);
-  graphpointset points =
-      number == 113 ? tree_v1_center(tree, value) : loc_tree_v1_center(tree, value);
-  return keep_points(ctx, std::move(points), value);
 }
 
 }  // namespace
 
 std::vector<family_case> tree_cases() {
-  return {{104, solve_tree_median},
-          {105, solve_tree_median},
-          {112, solve_tree_v1_center},
-          {113, solve_tree_v1_center}};
+  return {{104, solve_tree}, {105, solve_tree}, {112, solve_tree}, {113, solve_tree}};
 }
 
 }  // namespace mero

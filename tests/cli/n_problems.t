@@ -3,13 +3,7 @@ the optimum 12 of Aston and Carden (enumerated by hand over the ten pairs); gree
 the median Carden. The N-center optimum is 6; partitioning reaches it with Dale and Carden,
 greedy starts from the node center Berwick and adds Carden, at 8.
 
-  $ set -o pipefail
-  $ solve() {
-  >   printf '%s: ' "$1"
-  >   $MERO -a "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|graphpointset\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/graph_report.sh
   $ for a in N_median_cplex N_median_partitioning N_median_exchange N_median_greedy \
   >          N_center_partitioning N_center_greedy; do
   >   solve $a -g $EXAMPLES/road_network.graph -n 2
@@ -40,7 +34,6 @@ More facilities than nodes end the run with a message and status 0, before any r
 than one, and a missing -n, are errors; the command line itself asks -n of the N-medians only,
 and the run asks it of the N-centers. Each run is followed by its exit status in brackets.
 
-  $ status() { local out; out=$($MERO -a "$@" --output=nowindowed 2>&1); echo "$out [$?]"; }
   $ status N_median_exchange -g $EXAMPLES/road_network.graph -n 6
   MERO message: Number of nodes is smaller than N [0]
   $ status N_center_greedy -g $EXAMPLES/road_network.graph -n 6

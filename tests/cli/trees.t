@@ -4,13 +4,7 @@ and the plain sum of distances from Dale is 3+1+4+5+2+3 = 18. The double sweep f
 farthest from Ashby and Cliff farthest from Eden at 9; half of it, 4.5, lies 0.9 of the pipe
 from Eden to Dale. The node form takes Dale and adds 0.9 to 4.5, not Dale's own 5.
 
-  $ set -o pipefail
-  $ solve() {
-  >   printf '%s: ' "$1"
-  >   $MERO -a "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|graphpointset\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/graph_report.sh
   $ for a in loc_tree_median abs_tree_median abs_tree_v1_center loc_tree_v1_center; do
   >   solve $a -g $EXAMPLES/pipeline_tree.graph
   > done
@@ -41,7 +35,6 @@ reports in edge form.
 The center routines need weights of 1; every tree routine needs a tree. Each run is followed by
 its exit status in brackets.
 
-  $ status() { local out; out=$($MERO -a "$@" --output=nowindowed 2>&1); echo "$out [$?]"; }
   $ for a in loc_tree_v1_center abs_tree_v1_center; do status $a -g $EXAMPLES/village_tree.graph; done
   MERO error: All weights must be equal to 1 ErrorCode: 2202 [1]
   MERO error: All weights must be equal to 1 ErrorCode: 2202 [1]

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <random>
 
-#include "network/network_messages.h"
+#include "network/n_problem_support.h"
 #include "network_test_graphs.h"
 #include "test_support.h"
 
@@ -35,29 +35,16 @@ struct run {
   std::vector<int> assignment;
 };
 
+// The six routines by number: the exact program, then partitioning, exchange and greedy for the
+// sum, then partitioning and greedy for the max.
 run solve_with(int routine, const location_graph& g, int n_new) {
+  const n_objective mode = routine >= 4 ? n_objective::max : n_objective::sum;
   run r;
-  graphpointset points;
-  switch (routine) {
-    case 0:
-      points = n_median_exact(g, n_new, r.value, r.assignment);
-      break;
-    case 1:
-      points = n_partitioning(g, n_new, n_objective::sum, r.value, r.assignment);
-      break;
-    case 2:
-      points = n_exchange(g, n_new, r.value, r.assignment);
-      break;
-    case 3:
-      points = n_greedy(g, n_new, n_objective::sum, r.value, r.assignment);
-      break;
-    case 4:
-      points = n_partitioning(g, n_new, n_objective::max, r.value, r.assignment);
-      break;
-    default:
-      points = n_greedy(g, n_new, n_objective::max, r.value, r.assignment);
-      break;
-  }
+  graphpointset points = routine == 0   ? n_median_exact(g, n_new, r.value, r.assignment)
+                         : routine == 2 ? n_exchange(g, n_new, r.value, r.assignment)
+                         : routine == 1 || routine == 4
+                             ? n_partitioning(g, n_new, mode, r.value, r.assignment)
+                             : n_greedy(g, n_new, mode, r.value, r.assignment);
   r.facilities = facilities_of(points);
   return r;
 }
@@ -229,18 +216,9 @@ TEST(n_problems, exact_reaches_the_enumerated_optimum_and_heuristics_stay_above)
         EXPECT_GE(r.value, (max ? max_opt : sum_opt) - 1e-9) << round << " " << routine;
     }
     // n_exchange against its literal transcription, over the same three starts
-    std::vector<std::vector<int>> starts(2);
-    for (int k = 0; k < n_new; ++k) {
-      starts[0].push_back(k);
-      starts[1].push_back(n - n_new + k);
-    }
-    if (2 * n_new <= n) {
-      starts.emplace_back();
-      for (int k = 0; k < n_new; ++k) starts[2].push_back(2 * k);
-    }
     run best;
     best.value = 1e50;
-    for (const std::vector<int>& s : starts) {
+    for (const std::vector<int>& s : n_problem::starting_sets(n, n_new)) {
       run r = exchange_literally(d, w, s);
       if (r.value < best.value) best = r;
     }
