@@ -30,10 +30,10 @@ allocation assign(const n_problem::data& x, const std::vector<int>& f) {
   for (int i = 0; i < x.n; ++i) {
     int a = n_new - 1;
     for (int j = n_new - 2; j >= 0; --j)
-      if (x.d(f[j], i) < x.d(f[a], i)) a = j;
+      if (x.dist(f[j], i) < x.dist(f[a], i)) a = j;
     int s = -1;
     for (int j = n_new - 1; j >= 0; --j)
-      if (j != a && (s < 0 || x.d(f[j], i) < x.d(f[s], i))) s = j;
+      if (j != a && (s < 0 || x.dist(f[j], i) < x.dist(f[s], i))) s = j;
     r.nearest[i] = a;
     r.runner_up[i] = s;
   }
@@ -42,7 +42,7 @@ allocation assign(const n_problem::data& x, const std::vector<int>& f) {
 
 double total(const n_problem::data& x, const std::vector<int>& f, const allocation& a) {
   double z = 0.0;
-  for (int i = 0; i < x.n; ++i) z += x.d(f[a.nearest[i]], i) * x.w[i];
+  for (int i = 0; i < x.n; ++i) z += x.dist(f[a.nearest[i]], i) * x.w[i];
   return z;
 }
 
@@ -54,11 +54,11 @@ double swap_delta(const n_problem::data& x, const std::vector<int>& f, const all
   for (int i = 0; i < x.n; ++i) {
     const int own = a.nearest[i];
     const int rest = own == j ? a.runner_up[i] : own;
-    const int b = rest < 0 ? j : better(j, x.d(k, i), rest, x.d(f[rest], i));
+    const int b = rest < 0 ? j : better(j, x.dist(k, i), rest, x.dist(f[rest], i));
     if (b == j)
-      delta += (x.d(i, k) - x.d(i, f[own])) * x.w[i];
+      delta += (x.dist(i, k) - x.dist(i, f[own])) * x.w[i];
     else if (own == j)
-      delta += (x.d(i, f[b]) - x.d(i, f[own])) * x.w[i];
+      delta += (x.dist(i, f[b]) - x.dist(i, f[own])) * x.w[i];
   }
   return delta;
 }

@@ -19,8 +19,8 @@ struct nearest_facility {
 
   void add(const n_problem::data& x, int facility, int k) {
     for (int i = 0; i < x.n; ++i)
-      if (k == 0 || x.d(facility, i) <= distance[i]) {
-        distance[i] = x.d(facility, i);
+      if (k == 0 || x.dist(facility, i) <= distance[i]) {
+        distance[i] = x.dist(facility, i);
         ordinal[i] = k;
       }
   }
@@ -31,7 +31,7 @@ double objective_with(const n_problem::data& x, const nearest_facility& near, in
                       n_objective mode) {
   double sum = 0.0, largest = -network_infinity;
   for (int i = 0; i < x.n; ++i) {
-    const double d = x.d(c, i) <= near.distance[i] ? x.d(c, i) : near.distance[i];
+    const double d = x.dist(c, i) <= near.distance[i] ? x.dist(c, i) : near.distance[i];
     const double cost = d * x.w[i];
     sum += cost;
     if (cost > largest) largest = cost;

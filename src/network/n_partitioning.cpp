@@ -37,12 +37,12 @@ parts allocate(const n_problem::data& x, const std::vector<int>& f) {
   std::vector<double> nearest(at(x.n), network_infinity);
   for (int i = 0; i < x.n; ++i)
     for (int j = 0; j < n_new; ++j)
-      if (x.d(f[j], i) < nearest[i]) nearest[i] = x.d(f[j], i);
+      if (x.dist(f[j], i) < nearest[i]) nearest[i] = x.dist(f[j], i);
   parts p(f.size());
   std::vector<char> placed(at(x.n), 0);
   for (int j = 0; j < n_new; ++j)
     for (int i = 0; i < x.n; ++i)
-      if (x.d(f[j], i) == nearest[i] && !placed[i]) {
+      if (x.dist(f[j], i) == nearest[i] && !placed[i]) {
         p[j].push_back(i);
         placed[i] = 1;
       }

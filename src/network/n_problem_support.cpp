@@ -16,7 +16,11 @@ bool start(const location_graph& g, int n_new) {
 
 data read(const location_graph& g) {
   location_graph copy(g);
-  data x{distance_matrix(copy), head_weights(copy), copy.number_of_nodes()};
+  const matrix d = distance_matrix(copy);
+  data x{{}, head_weights(copy), d.dim1()};
+  x.d.reserve(at(x.n) * at(x.n));
+  for (int a = 0; a < x.n; ++a)
+    for (int b = 0; b < x.n; ++b) x.d.push_back(d(a, b));
   return x;
 }
 

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "kernel/index.h"
-#include "kernel/matrix.h"
 #include "network/location_graph.h"
 
 namespace mero::n_problem {
@@ -15,10 +14,12 @@ namespace mero::n_problem {
 bool start(const location_graph& g, int n_new);
 
 struct data {
-  matrix d;               // distances of a private copy, unrepaired
+  std::vector<double> d;  // distances of a private copy, unrepaired, row by row
   std::vector<double> w;  // head weights in node order
   int n = 0;
-  double cost(int f, int i) const { return d(f, i) * w[at(i)]; }
+  // D(a, b); the heuristics read it some n^2 N times, so it is kept flat.
+  double dist(int a, int b) const { return d[at(a * n + b)]; }
+  double cost(int f, int i) const { return dist(f, i) * w[at(i)]; }
 };
 data read(const location_graph& g);
 
