@@ -22,6 +22,8 @@ std::vector<family_case> planar_cases();
 std::vector<family_case> multifacility_cases();
 std::vector<family_case> network_cases();
 std::vector<family_case> multicriteria_cases();
+std::vector<family_case> tree_cases();
+std::vector<family_case> n_problem_cases();
 std::vector<family_case> discrete_cases();
 std::vector<family_case> restriction_cases();
 std::vector<family_case> line_cases();

@@ -5,8 +5,9 @@ namespace mero {
 const std::vector<family_case>& family_cases() {
   static const std::vector<family_case> all = [] {
     std::vector<family_case> cases;
-    for (auto part : {planar_cases(), multifacility_cases(), network_cases(), multicriteria_cases(),
-                      discrete_cases(), restriction_cases(), line_cases()})
+    for (auto part :
+         {planar_cases(), multifacility_cases(), network_cases(), multicriteria_cases(),
+          tree_cases(), n_problem_cases(), discrete_cases(), restriction_cases(), line_cases()})
       cases.insert(cases.end(), part.begin(), part.end());
     return cases;
   }();

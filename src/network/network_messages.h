@@ -33,6 +33,16 @@ inline constexpr message multicriteria_not_connected{
 // Written on standard output by the Pareto merge of two criteria when its chains are not
 // monotone, a state it should never reach; the run goes on.
 inline constexpr const char* merge_internal_state = "error, bitte bei Marel melden ;-)";
+// Trees and N-problems.
+inline constexpr message not_all_weights_one{2202, "All weights must be equal to 1"};
+// Folding leaves into their neighbours stops at a node holding half the total weight; with a
+// negative total no node ever does.
+inline constexpr message negative_tree_weight{
+    2203, "The sum of the weights is negative: folding the leaves finds no median"};
+// The ending message of an N-problem asked for more facilities than there are nodes (exit 0).
+inline constexpr message fewer_nodes_than_n{0, "Number of nodes is smaller than N"};
+// Fewer than one new facility would leave the heuristics no facility to assign nodes to.
+inline constexpr message no_new_facility{2004, "The number of new facilities must be at least 1"};
 
 // The kernel's check of a list's head, which an empty weight list of a node meets.
 inline constexpr const char* empty_weights = "dlist::head(): empty list";

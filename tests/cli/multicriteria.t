@@ -7,7 +7,7 @@ the Pareto and the lexicographic towns; the largest weighted distances (7, 9), (
 Aston (least first sum) and Dunmore (least second sum) are the lexicographic towns. The third
 demand, at Berwick only, makes Berwick the best for it, undirected and directed.
 
-  $ source $TESTDIR/graph_report_line.sh
+  $ source $TESTDIR/graph_report.sh
   $ names="medLexi loc_medLexi loc_cenLexi dir_medLexi dir_loc_medLexi dir_loc_cenLexi"
   $ for a in $names; do solve $a -g $EXAMPLES/two_criteria_square.graph; done
   medLexi: 1|G|.|d(V,G)|Q-sum-lex 0 Node [1] Node [4]

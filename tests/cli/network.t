@@ -17,7 +17,7 @@ absolute center lies 0.7 of the way from Carden to Dunmore at 8.4.
 
 From here on each run shows the name, classification, value and points of its report on one line.
 
-  $ source $TESTDIR/graph_report_line.sh
+  $ source $TESTDIR/graph_report.sh
   $ for a in loc_undir_median abs_undir_median loc_undir_center loc_undir_v1_center \
   >          abs_undir_center abs_undir_v1_center; do
   >   solve $a -g $EXAMPLES/road_network.graph
@@ -82,15 +82,13 @@ after a message.
 A graph that is not a tree, for the tree algorithms, and the graph reader's messages, each
 followed by the exit status in brackets.
 
-  $ for a in loc_tree_center abs_tree_center; do
-  >   out=$($MERO -a $a -g $EXAMPLES/road_network.graph --output=nowindowed 2>&1); echo "$out [$?]"
-  > done
+  $ for a in loc_tree_center abs_tree_center; do status $a -g $EXAMPLES/road_network.graph; done
   MERO error: Graph is not a tree :-) ErrorCode: 2201 [1]
   MERO error: Graph is not a tree :-) ErrorCode: 2201 [1]
   $ bad() {
   >   printf 'begin {merograph}\nbegin {location} [2,1]\n0 0 1 [a]\n1 0 1 [b]\nend {location}\n' > bad.graph
   >   printf "$1"'end {adjlist}\nend {merograph}\n' >> bad.graph
-  >   local out; out=$($MERO -a undir_median -g bad.graph --output=nowindowed 2>&1); echo "$out [$?]"
+  >   status undir_median -g bad.graph
   > }
   $ bad 'begin {adjlist_byname}\na b 1.5\nc b 2\n'
   MERO error: unexpected text 'c' in line 8 ErrorCode: 2112 [1]

@@ -14,6 +14,7 @@ namespace {
 
 using testing::arc;
 using testing::make_location_graph;
+using testing::served;
 
 TEST(abs_center, edge_cases_by_hand) {
   double value = 0;
@@ -86,15 +87,6 @@ TEST(abs_center, repairs_the_graph_it_is_handed) {
   EXPECT_EQ(abs_center(g, value), (graphpointset{{0, 1, 0.5}}));
   EXPECT_EQ(testing::messages().size(), 1u);
   EXPECT_EQ(g.number_of_edges(), 2);
-}
-
-// The weighted distance of the farthest node from the point at fraction t of the edge u-v.
-double served(const std::vector<std::vector<double>>& d, const std::vector<double>& w, int u, int v,
-              double length, double t) {
-  double worst = 0;
-  for (std::size_t i = 0; i < w.size(); ++i)
-    worst = std::max(worst, w[i] * std::min(d[u][i] + t * length, d[v][i] + (1 - t) * length));
-  return worst;
 }
 
 // node_center against enumeration over the directed graph, where a node that cannot be reached

@@ -2,6 +2,7 @@
 // Small location graphs built in code for the network tests; the arcs and the reference
 // distances are the kernel tests' own.
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -27,6 +28,15 @@ inline std::vector<arc> random_arcs(std::mt19937& rng, int n, int extra) {
   for (int k = 0; k < extra; ++k)
     arcs.push_back({static_cast<int>(rng() % n), static_cast<int>(rng() % n), 1.0 + rng() % 9});
   return arcs;
+}
+
+// The weighted distance of the farthest node from the point at fraction t of the edge u-v.
+inline double served(const std::vector<std::vector<double>>& d, const std::vector<double>& w, int u,
+                     int v, double length, double t) {
+  double worst = 0;
+  for (std::size_t i = 0; i < w.size(); ++i)
+    worst = std::max(worst, w[i] * std::min(d[u][i] + t * length, d[v][i] + (1 - t) * length));
+  return worst;
 }
 
 }  // namespace mero::testing
