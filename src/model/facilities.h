@@ -8,11 +8,15 @@
 #include <list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "kernel/matrix.h"
 #include "model/location.h"
 
 namespace mero {
+
+class point;
+class polygauge;
 
 // The coordinate that compare_by_coordinate looks at. Set it before each sort.
 extern int sort_coordinate;
@@ -99,6 +103,20 @@ class facilities : public std::list<location> {
   // The total cost c + d and the ratio d / c of interdependency cost d to location cost c.
   std::pair<double, double> N_lp_sum_v1(int n, int p, const matrix& V, bool clear);
   double N_linf_sum_v1(int n, const matrix& V);
+
+  // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
+  // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
+  double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                      bool clear);
+  double bi_crit_gauge_median(const std::vector<polygauge>& gauges,
+                              const std::vector<int>& gauge_numbers, bool clear);
+  double gauge_center(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                      bool clear);
+  // Sum over the locations of weight w times the gauge distance from the location to x.
+  double gauge_value(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                     const point& x, int w) const;
+  double l1_2sum(bool clear);
+  double linf_2sum(bool clear);
 
  protected:
   std::list<location> optima_;
