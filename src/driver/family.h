@@ -22,6 +22,7 @@ std::vector<family_case> planar_cases();
 std::vector<family_case> multifacility_cases();
 std::vector<family_case> network_cases();
 std::vector<family_case> discrete_cases();
+std::vector<family_case> gauge_cases();
 
 // All cases; a number missing here behaves as a number without a case.
 const std::vector<family_case>& family_cases();

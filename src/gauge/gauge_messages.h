@@ -39,7 +39,19 @@ inline constexpr message bi_crit_weights{1346,
 // no head.
 inline constexpr const char* no_crossing = "dlist::head(): empty list";
 
-// The gauge file.
+// The gauge file. The messages of a scan are collected and reported together under
+// file_messages; the wrong kind of file stops the scan at once.
 inline constexpr message cannot_open{1607, "Can't open file!"};
+inline constexpr message file_messages{1608, "Error in gauge-file."};
+inline constexpr message wrong_file{1609, "Wrong file!"};
+inline constexpr message polygauge_expected{
+    1608, "'begin {polygauge}' or 'end {polygaugelist}' expected in line %d, found \"%s%%s\" instead."};
+inline constexpr message mixgauge_expected{
+    1608, "'begin {mixgauge}' or 'end {mixgaugelist}' expected in line %d, found \"%s%%s\" instead."};
+inline constexpr message too_many_numbers{1608, "too many numbers in line %d"};
+inline constexpr message illegal_linebreak{1608, "Illegal linebreak in gauge-file at line %d."};
+inline constexpr message unexpected_text{1608, "unexpected  text in line %d"};
+// A list or a block that the file does not close.
+inline constexpr message unexpected_end{1608, "unexpected end of gauge-file in line %d"};
 
 }  // namespace mero::gauge_messages
