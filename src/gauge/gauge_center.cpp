@@ -155,6 +155,12 @@ double diameter(const std::vector<point>& points) {
   return d;
 }
 
+// Whether the common part has shrunk to a point: empty by rounding, or a speck around where.
+bool shrunk(const labeled_convex_polygon& common, const point& where) {
+  const double scale = std::fmax(1.0, std::fabs(where.xcoord()) + std::fabs(where.ycoord()));
+  return common.vertices.size() <= 1 || diameter(common.vertices) <= 1e-10 * scale;
+}
+
 // The smallest feasible critical value by bisection over the sorted values (feasibility rises
 // with z); the value at the first location, which is feasible, when none is.
 double search_critical(const std::vector<gauge_site>& sites, std::vector<double> values) {
@@ -213,17 +219,15 @@ double facilities::gauge_center(const std::vector<polygauge>& gauges,
   point last_corner = common.vertices.empty() ? sites.front().a : common.vertices.front();
   // Each step removes a facet from the common part or brings one in; the bound only guards
   // against a cycle of rounding.
-  for (std::size_t step = 0; step < 4 * all.size() + 8 && common.vertices.size() > 1; ++step) {
+  for (std::size_t step = 0; step < 4 * all.size() + 8 && !shrunk(common, last_corner); ++step) {
     const descent_step next = next_event(common, all, z);
     if (next.z == -HUGE_VAL) break;
-    labeled_convex_polygon below = common_part(sites, facets, stride, next.z);
-    if (below.vertices.empty()) break;
     z = next.z;
-    common = below;
     last_corner = next.where;
+    // At the optimum the common part is a point, which rounding may lose or keep as a speck.
+    common = common_part(sites, facets, stride, z);
   }
-  const double scale = std::fmax(1.0, std::fabs(last_corner.xcoord()) + std::fabs(last_corner.ycoord()));
-  if (common.vertices.size() <= 1 || diameter(common.vertices) <= 1e-9 * scale) {
+  if (shrunk(common, last_corner)) {
     optima_.push_back(result_location(last_corner.xcoord(), last_corner.ycoord(), 0.0));
   } else {
     for (const point& p : common.vertices)
