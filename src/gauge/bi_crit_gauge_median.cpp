@@ -5,7 +5,6 @@
 #include <cmath>
 #include <vector>
 
-#include "gauge/gauge_messages.h"
 #include "gauge/gauge_sites.h"
 #include "kernel/convex_hull.h"
 #include "planar/weighted_points.h"
@@ -13,10 +12,6 @@
 namespace mero {
 
 namespace {
-
-constexpr gauge_checks bi_crit_checks{
-    gauge_messages::bi_crit_weight_dim, gauge_messages::bi_crit_gauge_count,
-    gauge_messages::bi_crit_gauge_number, gauge_messages::bi_crit_weights};
 
 // Objective values are sums of rounded products: points whose weighted values differ by less
 // than this share of the values count as equal, so that a cell whose corners tie in exact

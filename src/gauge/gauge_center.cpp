@@ -5,7 +5,6 @@
 #include <cmath>
 #include <vector>
 
-#include "gauge/gauge_messages.h"
 #include "gauge/gauge_sites.h"
 #include "kernel/convex_intersection.h"
 #include "planar/weighted_points.h"
@@ -13,10 +12,6 @@
 namespace mero {
 
 namespace {
-
-constexpr gauge_checks center_checks{
-    gauge_messages::median_weight_dim, gauge_messages::median_gauge_count,
-    gauge_messages::median_gauge_number, gauge_messages::median_weights};
 
 // Shrinks the balls of the feasibility test so that balls that only touch do not count as
 // meeting; the value belongs to the test.
@@ -123,8 +118,8 @@ struct descent_step {
 // The largest z below current at which a corner of the common part reaches the line of a further
 // facet: the next change of its shape as z falls (three facet lines meet there). z is -inf when
 // nothing changes any more within the relative precision of z.
-descent_step next_event(const labeled_convex_polygon& p,
-                        const std::vector<facet>& all, double current) {
+descent_step next_event(const labeled_convex_polygon& p, const std::vector<facet>& all,
+                        double current) {
   descent_step next{-HUGE_VAL, point()};
   const std::size_t m = p.vertices.size();
   const double resolution = 1e-12 * std::fmax(1.0, std::fabs(current));
@@ -195,7 +190,8 @@ double search_critical(const std::vector<gauge_site>& sites, std::vector<double>
 double facilities::gauge_center(const std::vector<polygauge>& gauges,
                                 const std::vector<int>& gauge_numbers, bool clear) {
   if (clear) optima_.clear();
-  const std::vector<gauge_site> sites = checked_sites(*this, gauges, gauge_numbers, 1, center_checks);
+  const std::vector<gauge_site> sites =
+      checked_sites(*this, gauges, gauge_numbers, 1, median_checks);
   optima_.clear();
   bool all_equal = true;
   for (const gauge_site& s : sites) all_equal = all_equal && s.a == sites.front().a;

@@ -24,10 +24,10 @@ namespace mero {
 
 // What the gauge scanner fills.
 struct gauge_scan : scan_state {
-  bool mixed = false;                 // the mode: "Mixgauge" when true, "LPgauge" otherwise
-  bool single = false;                // a oneLPGauge or oneMixGauge file
-  int counter = 0;                    // numbers of the point being read
-  bool line_full = false;             // the present line already holds a whole point
+  bool mixed = false;      // the mode: "Mixgauge" when true, "LPgauge" otherwise
+  bool single = false;     // a oneLPGauge or oneMixGauge file
+  int counter = 0;         // numbers of the point being read
+  bool line_full = false;  // the present line already holds a whole point
   double x = 0.0, y = 0.0;
   std::vector<point> points;
   std::vector<bool> flags;

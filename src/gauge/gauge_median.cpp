@@ -12,10 +12,6 @@ namespace mero {
 
 namespace {
 
-constexpr gauge_checks median_checks{
-    gauge_messages::median_weight_dim, gauge_messages::median_gauge_count,
-    gauge_messages::median_gauge_number, gauge_messages::median_weights};
-
 // A subgradient of the objective at x: on each location's cone holding x the gauge is linear,
 // and the weighted gradients add up. A location at x itself adds nothing.
 point subgradient(const std::vector<gauge_site>& sites, const point& x) {
@@ -36,8 +32,7 @@ point subgradient(const std::vector<gauge_site>& sites, const point& x) {
 }  // namespace
 
 double facilities::gauge_value(const std::vector<polygauge>& gauges,
-                               const std::vector<int>& gauge_numbers, const point& x,
-                               int w) const {
+                               const std::vector<int>& gauge_numbers, const point& x, int w) const {
   double sum = 0.0;
   std::size_t i = 0;
   for (const location& l : *this) sum += l.weight(w) * gauges[gauge_numbers[i++]].dist(point(l), x);
@@ -55,15 +50,16 @@ double facilities::gauge_value(const std::vector<polygauge>& gauges,
 double facilities::gauge_median(const std::vector<polygauge>& gauges,
                                 const std::vector<int>& gauge_numbers, bool clear) {
   if (clear) optima_.clear();
-  const std::vector<gauge_site> sites = checked_sites(*this, gauges, gauge_numbers, 1, median_checks);
+  const std::vector<gauge_site> sites =
+      checked_sites(*this, gauges, gauge_numbers, 1, median_checks);
   l2sqr_sum(0, false);
   // The solver appended its optimum; it is the start x0.
   const point x0(optima_.back());
   const double z = gauge_sum(sites, x0, 0);
 
   std::vector<std::size_t> owner;
-  const std::vector<segment> rays =
-      ray_grid(sites, [z](const gauge_site& s, const point&) { return z / s.w[0]; }, owner);
+  const std::vector<segment> rays = ray_grid(
+      sites, [z](const gauge_site& s, const point&) { return z / s.w[0]; }, owner);
   const point g = subgradient(sites, x0);
 
   double best = z;

@@ -45,9 +45,11 @@ inline constexpr message cannot_open{1607, "Can't open file!"};
 inline constexpr message file_messages{1608, "Error in gauge-file."};
 inline constexpr message wrong_file{1609, "Wrong file!"};
 inline constexpr message polygauge_expected{
-    1608, "'begin {polygauge}' or 'end {polygaugelist}' expected in line %d, found \"%s%%s\" instead."};
+    1608,
+    "'begin {polygauge}' or 'end {polygaugelist}' expected in line %d, found \"%s%%s\" instead."};
 inline constexpr message mixgauge_expected{
-    1608, "'begin {mixgauge}' or 'end {mixgaugelist}' expected in line %d, found \"%s%%s\" instead."};
+    1608,
+    "'begin {mixgauge}' or 'end {mixgaugelist}' expected in line %d, found \"%s%%s\" instead."};
 inline constexpr message too_many_numbers{1608, "too many numbers in line %d"};
 inline constexpr message illegal_linebreak{1608, "Illegal linebreak in gauge-file at line %d."};
 inline constexpr message unexpected_text{1608, "unexpected  text in line %d"};

@@ -63,8 +63,8 @@ point cone_gradient(const point& e1, const point& e2) {
 
 std::vector<point> grid_crossings(const std::vector<segment>& rays,
                                   const std::vector<std::size_t>& owner) {
-  return crossing_points(segment_crossings(
-      rays, [&](std::size_t i, std::size_t j) { return owner[i] != owner[j]; }));
+  return crossing_points(
+      segment_crossings(rays, [&](std::size_t i, std::size_t j) { return owner[i] != owner[j]; }));
 }
 
 }  // namespace mero

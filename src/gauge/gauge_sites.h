@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "gauge/gauge_messages.h"
 #include "gauge/polygauge.h"
 #include "kernel/point.h"
 #include "kernel/reporters.h"
@@ -26,6 +27,14 @@ struct gauge_checks {
   message gauge_number;
   message weights;
 };
+
+// gauge_median and gauge_center need one positive column; bi_crit_gauge_median two.
+inline constexpr gauge_checks median_checks{
+    gauge_messages::median_weight_dim, gauge_messages::median_gauge_count,
+    gauge_messages::median_gauge_number, gauge_messages::median_weights};
+inline constexpr gauge_checks bi_crit_checks{
+    gauge_messages::bi_crit_weight_dim, gauge_messages::bi_crit_gauge_count,
+    gauge_messages::bi_crit_gauge_number, gauge_messages::bi_crit_weights};
 
 // Checks, in this order, the weight dimension (columns), the number of gauge numbers, their
 // range and the weights, and returns the sites in list order. With one column a weight must be

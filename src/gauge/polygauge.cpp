@@ -71,17 +71,15 @@ point polygauge::direction(int k) const {
   return point(s.dx(), s.dy());
 }
 
-bool polygauge::in_cone(const point& x, int cone, const point& p, bool& interior) const {
-  const int n = cones();
-  if (cone > n || cone < 1) report_error(gauge_messages::cone_in_cone);
-  interior = true;
-  if (p == x) {
-    interior = false;
-    return false;
-  }
+double polygauge::angle_at(const point& x, const point& p) const {
   const point first = direction(0);
-  const double a = angle_from(first.xcoord(), first.ycoord(), p.xcoord() - x.xcoord(),
-                              p.ycoord() - x.ycoord());
+  return angle_from(first.xcoord(), first.ycoord(), p.xcoord() - x.xcoord(),
+                    p.ycoord() - x.ycoord());
+}
+
+bool polygauge::holds(int cone, double a, bool& interior) const {
+  const int n = cones();
+  interior = true;
   if (cone == n && a > alphas_[n - 1]) return true;
   const double low = alphas_[cone - 1];
   const double high = alphas_[cone % n];
@@ -89,13 +87,24 @@ bool polygauge::in_cone(const point& x, int cone, const point& p, bool& interior
   return low <= a && a <= high;
 }
 
+bool polygauge::in_cone(const point& x, int cone, const point& p, bool& interior) const {
+  if (cone > cones() || cone < 1) report_error(gauge_messages::cone_in_cone);
+  if (p == x) {
+    interior = false;
+    return false;
+  }
+  return holds(cone, angle_at(x, p), interior);
+}
+
+// The angle of p is measured once and tried against the cones in order, as in_cone would.
 int polygauge::cone_of(const point& x, const point& p, bool& interior) const {
   if (p == x) {
     interior = false;
     return 0;
   }
+  const double a = angle_at(x, p);
   for (int cone = 1; cone <= cones(); ++cone)
-    if (in_cone(x, cone, p, interior)) return cone;
+    if (holds(cone, a, interior)) return cone;
   return 0;
 }
 
@@ -192,8 +201,7 @@ mixgauge::kept mixgauge::checked(const std::vector<point>& points,
     }
     previous = conetyps[i];
   }
-  if (!kept_points.empty() && k.conetyps.back() && k.conetyps.front() &&
-      kept_points.size() > 1) {
+  if (!kept_points.empty() && k.conetyps.back() && k.conetyps.front() && kept_points.size() > 1) {
     kept_points.pop_back();
     k.conetyps.pop_back();
   }

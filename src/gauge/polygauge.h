@@ -59,6 +59,10 @@ class polygauge {
 
  private:
   point direction(int k) const;  // extreme point k (0-based) relative to the ray's start
+  // The angle at x from the first fundamental direction to p, counter-clockwise in [0, 2 pi).
+  double angle_at(const point& x, const point& p) const;
+  // Whether the angle a lies in cone (1 to n), bounds included; interior false on a ray.
+  bool holds(int cone, double a, bool& interior) const;
 
   std::vector<segment> dirs_;
   std::vector<double> alphas_;

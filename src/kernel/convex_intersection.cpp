@@ -27,8 +27,7 @@ void emit(labeled_convex_polygon& out, const point& p, int label) {
 
 }  // namespace
 
-labeled_convex_polygon clip(const labeled_convex_polygon& polygon, const half_plane& h,
-                            int label) {
+labeled_convex_polygon clip(const labeled_convex_polygon& polygon, const half_plane& h, int label) {
   labeled_convex_polygon out;
   const std::size_t m = polygon.vertices.size();
   for (std::size_t k = 0; k < m; ++k) {

@@ -1,9 +1,9 @@
 #include "gauge/gauge_file.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <fstream>
-
-#include <unistd.h>
 
 #include "gauge/gauge_messages.h"
 #include "test_support.h"
@@ -17,8 +17,8 @@ struct gauge_temp_file {
   explicit gauge_temp_file(const std::string& text) { std::ofstream(path) << text; }
   ~gauge_temp_file() { std::remove(path.c_str()); }
   static inline int counter = 0;
-  const std::string path = ::testing::TempDir() + "gauge_file_test_" +
-                           std::to_string(::getpid()) + "_" + std::to_string(counter++) + ".gauge";
+  const std::string path = ::testing::TempDir() + "gauge_file_test_" + std::to_string(::getpid()) +
+                           "_" + std::to_string(counter++) + ".gauge";
 };
 
 TEST(gauge_file, list_and_single_forms) {

@@ -64,8 +64,9 @@ double sum_of(const instance& in, const point& x, int column = 0) {
 double max_of(const instance& in, const point& x) {
   double m = 0.0;
   for (std::size_t i = 0; i < in.sites.size(); ++i)
-    m = std::max(m, in.weights[i][0] * gauge_by_edges(in.balls[i], x.xcoord() - in.sites[i].xcoord(),
-                                                      x.ycoord() - in.sites[i].ycoord()));
+    m = std::max(m,
+                 in.weights[i][0] * gauge_by_edges(in.balls[i], x.xcoord() - in.sites[i].xcoord(),
+                                                   x.ycoord() - in.sites[i].ycoord()));
   return m;
 }
 
@@ -95,6 +96,12 @@ double grid_minimum(const instance& in, double (*f)(const instance&, const point
   for (double x = -2.0; x <= 12.0; x += 0.1)
     for (double y = -2.0; y <= 12.0; y += 0.1) best = std::min(best, f(in, point(x, y)));
   return best;
+}
+
+std::vector<point> points_of(const std::list<location>& l) {
+  std::vector<point> p;
+  for (const location& o : l) p.push_back(point(o));
+  return p;
 }
 
 double sum0(const instance& in, const point& x) { return sum_of(in, x, 0); }
@@ -130,9 +137,7 @@ TEST(gauge_median, tied_crossings_give_their_hull) {
               {rectilinear_gauge().extreme_points(), rectilinear_gauge().extreme_points()}};
   facilities f = problem_of(in);
   EXPECT_EQ(f.gauge_median(gauges_of(in), numbers_of(in), true), 3.0);
-  std::vector<point> got;
-  for (const location& o : f.optima()) got.push_back(point(o));
-  EXPECT_EQ(got, (std::vector<point>{point(0, 1), point(2, 0)}));
+  EXPECT_EQ(points_of(f.optima()), (std::vector<point>{point(0, 1), point(2, 0)}));
 }
 
 TEST(gauge_center, value_is_exact_on_random_instances) {
@@ -166,8 +171,8 @@ TEST(gauge_center, value_is_exact_on_random_instances) {
           const double r1 = planes[b].c - planes[a].c, r2 = planes[c].c - planes[a].c;
           const double det = a1 * b2 - a2 * b1;
           if (std::fabs(det) < 1e-12) continue;
-          exact = std::min(exact, max_of(in, point((r1 * b2 - r2 * b1) / det,
-                                                   (a1 * r2 - a2 * r1) / det)));
+          exact = std::min(exact,
+                           max_of(in, point((r1 * b2 - r2 * b1) / det, (a1 * r2 - a2 * r1) / det)));
         }
     EXPECT_LE(exact, grid_minimum(in, max_of) + 1e-9);
     facilities f = problem_of(in);
@@ -196,20 +201,12 @@ TEST(gauge_center, hand_cases) {
                   {chebyshev_gauge().extreme_points(), chebyshev_gauge().extreme_points()}};
   facilities s = problem_of(square);
   EXPECT_DOUBLE_EQ(s.gauge_center(gauges_of(square), numbers_of(square), true), 2.0);
-  std::vector<point> ends;
-  for (const location& o : s.optima()) ends.push_back(point(o));
-  EXPECT_EQ(ends, (std::vector<point>{point(2, -2), point(2, 2)}));
+  EXPECT_EQ(points_of(s.optima()), (std::vector<point>{point(2, -2), point(2, 2)}));
   // One site: value 0 at the site.
   instance one{{point(2, 5)}, {{1.0}}, {rectilinear_gauge().extreme_points()}};
   facilities g = problem_of(one);
   EXPECT_EQ(g.gauge_center(gauges_of(one), numbers_of(one), true), 0.0);
   EXPECT_EQ(point(g.optima().front()), point(2, 5));
-}
-
-std::vector<point> points_of(const std::list<location>& l) {
-  std::vector<point> p;
-  for (const location& o : l) p.push_back(point(o));
-  return p;
 }
 
 TEST(two_column_sums, efficient_sets_known_by_hand) {

@@ -68,7 +68,8 @@ inline std::vector<point> random_ball(std::mt19937& gen, int k) {
       const point& b = p[(i + 1) % k];
       const point& c = p[(i + 2) % k];
       convex = (b.xcoord() - a.xcoord()) * (c.ycoord() - a.ycoord()) -
-                   (b.ycoord() - a.ycoord()) * (c.xcoord() - a.xcoord()) > 1e-3;
+                   (b.ycoord() - a.ycoord()) * (c.xcoord() - a.xcoord()) >
+               1e-3;
     }
     if (convex) return p;
   }

@@ -83,8 +83,7 @@ TEST(polygauge, operations_and_their_checks) {
   EXPECT_REPORT(g.mini(point(), -1), msg::mini_index.code, msg::mini_index.text);
   EXPECT_REPORT(g.max_diff(3), msg::max_diff_index.code, msg::max_diff_index.text);
 
-  EXPECT_EQ(g.fundamental_directions(point(1, 1), 4),
-            std::make_pair(point(0, -2), point(3, 1)));
+  EXPECT_EQ(g.fundamental_directions(point(1, 1), 4), std::make_pair(point(0, -2), point(3, 1)));
   // The first of equal coordinates stays: (0,1) and (-1,1) both have y = 1.
   EXPECT_EQ(g.max(point(10, 0), 1), point(10, 1));
   EXPECT_EQ(g.mini(point(), 0), point(-1, 1));

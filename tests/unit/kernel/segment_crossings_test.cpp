@@ -52,8 +52,8 @@ TEST(segment_crossings, pairs_agree_with_all_pairs_of_an_exact_test) {
         EXPECT_TRUE(segments[c.first].contains(c.where) && segments[c.second].contains(c.where));
       } else {
         for (const segment& u : {segments[c.first], segments[c.second]}) {
-          const double cross = u.dx() * (c.where.ycoord() - u.ycoord1()) -
-                               u.dy() * (c.where.xcoord() - u.xcoord1());
+          const double cross =
+              u.dx() * (c.where.ycoord() - u.ycoord1()) - u.dy() * (c.where.xcoord() - u.xcoord1());
           EXPECT_NEAR(cross, 0.0, 1e-9 * (1.0 + u.length() * u.length())) << seed;
         }
       }
@@ -79,8 +79,10 @@ TEST(segment_crossings, overlap_gives_the_ends_of_the_common_part) {
 TEST(segment_crossings, filter_and_distinct_points) {
   // Three segments through (1, 1); the first two come from the same owner and are not tested.
   const std::vector<segment> s{segment(point(0, 0), point(2, 2)), segment(point(0, 2), point(2, 0)),
-                               segment(point(1, 0), point(1, 3)), segment(point(5, 5), point(6, 5))};
-  const auto c = segment_crossings(s, [](std::size_t i, std::size_t j) { return !(i == 0 && j == 1); });
+                               segment(point(1, 0), point(1, 3)),
+                               segment(point(5, 5), point(6, 5))};
+  const auto c =
+      segment_crossings(s, [](std::size_t i, std::size_t j) { return !(i == 0 && j == 1); });
   ASSERT_EQ(c.size(), 2u);
   EXPECT_EQ(c[0].first, 0u);
   EXPECT_EQ(c[0].second, 2u);
