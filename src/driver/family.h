@@ -27,6 +27,7 @@ std::vector<family_case> n_problem_cases();
 std::vector<family_case> discrete_cases();
 std::vector<family_case> restriction_cases();
 std::vector<family_case> line_cases();
+std::vector<family_case> gauge_cases();
 
 // All cases; a number missing here behaves as a number without a case.
 const std::vector<family_case>& family_cases();

@@ -16,6 +16,9 @@
 
 namespace mero {
 
+class point;
+class polygauge;
+
 // The coordinate that compare_by_coordinate looks at. Set it before each sort.
 extern int sort_coordinate;
 
@@ -134,6 +137,19 @@ class facilities : public std::list<location> {
   double L_lp_max_M4(int p);
   double L_l2_v1_max();
   double L_l2_max_M2logM();
+  // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
+  // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
+  double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                      bool clear);
+  double bi_crit_gauge_median(const std::vector<polygauge>& gauges,
+                              const std::vector<int>& gauge_numbers, bool clear);
+  double gauge_center(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                      bool clear);
+  // Sum over the locations of weight w times the gauge distance from the location to x.
+  double gauge_value(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
+                     const point& x, int w) const;
+  double l1_2sum(bool clear);
+  double linf_2sum(bool clear);
 
  protected:
   std::list<location> optima_;
