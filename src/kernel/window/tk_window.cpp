@@ -134,7 +134,8 @@ bool tk_window::realize() {
     call({"canvas", canvas_path(), "-width", std::to_string(width()), "-height",
           std::to_string(height()), "-background", "white", "-highlightthickness", "0",
           "-borderwidth", "0"});
-    call({"pack", canvas_path(), "-side", "top", "-fill", "both", "-expand", "1"});
+    // The area keeps its size in pixels when the panel above it is wider.
+    call({"pack", canvas_path(), "-side", "top"});
     call({"bind", canvas_path(), "<ButtonPress>", "::mero::event " + id + " click %b %x %y"});
     call({"bind", canvas_path(), "<Configure>", "::mero::event " + id + " resize %w %h"});
   }
