@@ -11,8 +11,8 @@ int main(int argc, char** argv) {
   mero::svg_window w(400, 300, "scene");
   w.init(0, 10, 0);  // 40 pixels per unit, y from 0 to 7.5
   w.set_color(mero::color::blue);
-  w.draw_filled_polygon({mero::point(1, 1), mero::point(4, 1), mero::point(4, 4),
-                         mero::point(1, 4)});
+  w.draw_filled_polygon(
+      {mero::point(1, 1), mero::point(4, 1), mero::point(4, 4), mero::point(1, 4)});
   w.set_color(mero::color::red);
   w.draw_disc(7, 5, 1);
   w.set_color(mero::color::green);

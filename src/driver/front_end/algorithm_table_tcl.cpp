@@ -25,11 +25,16 @@ std::vector<std::string> fields(const std::string& label) {
 
 const char* chain_name(chain c) {
   switch (c) {
-    case chain::A: return "A";
-    case chain::N: return "N";
-    case chain::R: return "R";
-    case chain::G: return "G";
-    case chain::RG: return "RG";
+    case chain::A:
+      return "A";
+    case chain::N:
+      return "N";
+    case chain::R:
+      return "R";
+    case chain::G:
+      return "G";
+    case chain::RG:
+      return "RG";
   }
   return "";
 }
@@ -90,8 +95,7 @@ void write_table(std::ostream& out) {
          "set mero_algorithms {\n";
   for (const algorithm_name& a : algorithm_names()) {
     const description d = describe(a);
-    out << "  {" << a.name << ' ' << chain_name(a.in) << ' ' << a.number << ' ' << d.family
-        << " {";
+    out << "  {" << a.name << ' ' << chain_name(a.in) << ' ' << a.number << ' ' << d.family << " {";
     for (std::size_t i = 0; i < d.files.size(); ++i) out << (i ? " " : "") << d.files[i];
     out << "} " << d.p << ' ' << d.n << "}\n";
   }

@@ -9,22 +9,24 @@ namespace mero {
 
 namespace {
 
-// Pixel positions with two decimals: finer than any screen, and short.
-std::string num(double v) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2f", v);
-  return text;
-}
-
 std::string escaped(const std::string& text) {
   std::string out;
   for (char c : text) {
     switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out += c;
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += "&quot;";
+        break;
+      default:
+        out += c;
     }
   }
   return out;
@@ -34,7 +36,7 @@ std::string point_list(const std::vector<pixel_point>& points) {
   std::string list;
   for (const pixel_point& p : points) {
     if (!list.empty()) list += ' ';
-    list += num(p.x) + ',' + num(p.y);
+    list += pixel_number(p.x) + ',' + pixel_number(p.y);
   }
   return list;
 }
@@ -70,8 +72,7 @@ bool svg_window::save(const std::string& path) const {
   return static_cast<bool>(file.flush());
 }
 
-void svg_window::paint_polyline(const std::vector<pixel_point>& points, bool closed,
-                                const pen& p) {
+void svg_window::paint_polyline(const std::vector<pixel_point>& points, bool closed, const pen& p) {
   elements_.push_back(std::string(closed ? "<polygon" : "<polyline") + " points=\"" +
                       point_list(points) + "\" fill=\"none\" stroke=\"" + color_hex(p.fill) +
                       "\" stroke-width=\"" + std::to_string(p.width) +
@@ -79,28 +80,30 @@ void svg_window::paint_polyline(const std::vector<pixel_point>& points, bool clo
 }
 
 void svg_window::paint_filled_polygon(const std::vector<pixel_point>& points, const pen& p) {
-  elements_.push_back("<polygon points=\"" + point_list(points) + "\" fill=\"" +
-                      color_hex(p.fill) + "\" stroke=\"none\"/>");
+  elements_.push_back("<polygon points=\"" + point_list(points) + "\" fill=\"" + color_hex(p.fill) +
+                      "\" stroke=\"none\"/>");
 }
 
 void svg_window::paint_oval(pixel_point centre, double radius, bool filled, const pen& p) {
-  const std::string paint = filled ? std::string("fill=\"") + color_hex(p.fill) + "\" stroke=\"none\""
-                                   : std::string("fill=\"none\" stroke=\"") + color_hex(p.fill) +
-                                         "\" stroke-width=\"" + std::to_string(p.width) + "\"";
-  elements_.push_back("<circle cx=\"" + num(centre.x) + "\" cy=\"" + num(centre.y) + "\" r=\"" +
-                      num(radius) + "\" " + paint + "/>");
+  const std::string paint = filled
+                                ? std::string("fill=\"") + color_hex(p.fill) + "\" stroke=\"none\""
+                                : std::string("fill=\"none\" stroke=\"") + color_hex(p.fill) +
+                                      "\" stroke-width=\"" + std::to_string(p.width) + "\"";
+  elements_.push_back("<circle cx=\"" + pixel_number(centre.x) + "\" cy=\"" +
+                      pixel_number(centre.y) + "\" r=\"" + pixel_number(radius) + "\" " + paint +
+                      "/>");
 }
 
 // A top-left anchor puts the text's first line below the point, as on the screen.
-void svg_window::paint_text(pixel_point at, const std::string& text, anchor a,
-                            const text_font& f, const pen& p) {
+void svg_window::paint_text(pixel_point at, const std::string& text, anchor a, const text_font& f,
+                            const pen& p) {
   const bool centre = a == anchor::centre;
-  elements_.push_back("<text x=\"" + num(at.x) + "\" y=\"" + num(at.y) + "\" font-family=\"" +
-                      escaped(f.family) + "\" font-size=\"" + std::to_string(f.size) + "pt\"" +
-                      (f.bold ? " font-weight=\"bold\"" : "") + " fill=\"" + color_hex(p.fill) +
-                      "\" text-anchor=\"" + (centre ? "middle" : "start") +
-                      "\" dominant-baseline=\"" + (centre ? "central" : "hanging") + "\">" +
-                      escaped(text) + "</text>");
+  elements_.push_back("<text x=\"" + pixel_number(at.x) + "\" y=\"" + pixel_number(at.y) +
+                      "\" font-family=\"" + escaped(f.family) + "\" font-size=\"" +
+                      std::to_string(f.size) + "pt\"" + (f.bold ? " font-weight=\"bold\"" : "") +
+                      " fill=\"" + color_hex(p.fill) + "\" text-anchor=\"" +
+                      (centre ? "middle" : "start") + "\" dominant-baseline=\"" +
+                      (centre ? "central" : "hanging") + "\">" + escaped(text) + "</text>");
 }
 
 // One rectangle per run of equal pixels in a row: plain SVG that every renderer shows, with no
@@ -113,9 +116,9 @@ void svg_window::paint_pixrect(pixel_point at, const pixrect& image) {
     for (int col = 1; col <= image.width; ++col) {
       if (col < image.width && std::equal(line + col * 3, line + col * 3 + 3, line + start * 3))
         continue;
-      group += "<rect x=\"" + num(at.x + start) + "\" y=\"" + num(at.y + row) + "\" width=\"" +
-               std::to_string(col - start) + "\" height=\"1\" fill=\"" + hex_of(line + start * 3) +
-               "\"/>";
+      group += "<rect x=\"" + pixel_number(at.x + start) + "\" y=\"" + pixel_number(at.y + row) +
+               "\" width=\"" + std::to_string(col - start) + "\" height=\"1\" fill=\"" +
+               hex_of(line + start * 3) + "\"/>";
       start = col;
     }
   }

@@ -27,7 +27,8 @@ std::map<int, tk_window*>& windows() {
 int event_command(ClientData, Tcl_Interp*, int argc, const char* argv[]) {
   if (argc < 3) return TCL_OK;
   auto found = windows().find(std::atoi(argv[1]));
-  if (found != windows().end()) found->second->deliver(std::vector<std::string>(argv + 2, argv + argc));
+  if (found != windows().end())
+    found->second->deliver(std::vector<std::string>(argv + 2, argv + argc));
   return TCL_OK;
 }
 
@@ -65,7 +66,9 @@ session& the_session() {
   return s;
 }
 
-Tcl_Obj* word(const std::string& s) { return Tcl_NewStringObj(s.data(), static_cast<int>(s.size())); }
+Tcl_Obj* word(const std::string& s) {
+  return Tcl_NewStringObj(s.data(), static_cast<int>(s.size()));
+}
 
 // Runs one command given as words, so that no text needs quoting; a refusal is a fault.
 std::string call(const std::vector<std::string>& words) {
@@ -84,12 +87,6 @@ std::string call(const std::vector<std::string>& words) {
 }
 
 int call_int(const std::vector<std::string>& words) { return std::atoi(call(words).c_str()); }
-
-std::string num(double v) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%.2f", v);
-  return text;
-}
 
 int next_id = 1;
 
@@ -176,8 +173,9 @@ void tk_window::build_item(std::size_t index) {
             "-indicatoron", "1"});
       call({"menu", b + ".m", "-tearoff", "0"});
       for (std::size_t e = 0; e < it.entries.size(); ++e)
-        call({b + ".m", "add", "command", "-label", it.entries[e], "-command",
-              "::mero::event " + id + " button " + std::to_string(it.number + static_cast<int>(e))});
+        call(
+            {b + ".m", "add", "command", "-label", it.entries[e], "-command",
+             "::mero::event " + id + " button " + std::to_string(it.number + static_cast<int>(e))});
       call({"pack", b, "-side", "left", "-padx", "4"});
       return;
     }
@@ -325,7 +323,7 @@ void tk_window::create(const std::string& kind, const std::vector<double>& coord
                        std::vector<std::string> options) {
   if (!realize() || width() == 0 || height() == 0) return;
   std::vector<std::string> words{canvas_path(), "create", kind};
-  for (double c : coordinates) words.push_back(num(c));
+  for (double c : coordinates) words.push_back(pixel_number(c));
   words.insert(words.end(), options.begin(), options.end());
   if (buffering()) {
     words.insert(words.end(), {"-state", "hidden", "-tags", "buffered"});
@@ -341,8 +339,7 @@ std::vector<double> flat(const std::vector<pixel_point>& points) {
 }
 }  // namespace
 
-void tk_window::paint_polyline(const std::vector<pixel_point>& points, bool closed,
-                               const pen& p) {
+void tk_window::paint_polyline(const std::vector<pixel_point>& points, bool closed, const pen& p) {
   const std::string w = std::to_string(p.width);
   if (closed)
     create("polygon", flat(points), {"-fill", "", "-outline", color_hex(p.fill), "-width", w});
@@ -381,7 +378,8 @@ void tk_window::paint_pixrect(pixel_point at, const pixrect& image) {
   for (int row = 0; row < image.height; ++row) {
     data += '{';
     for (int col = 0; col < image.width; ++col) {
-      const unsigned char* px = image.rgb.data() + (static_cast<std::size_t>(row) * image.width + col) * 3;
+      const unsigned char* px =
+          image.rgb.data() + (static_cast<std::size_t>(row) * image.width + col) * 3;
       std::snprintf(hex, sizeof hex, "#%02x%02x%02x", px[0], px[1], px[2]);
       data += hex;
       data += ' ';

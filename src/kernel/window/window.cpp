@@ -1,6 +1,7 @@
 #include "kernel/window/window.h"
 
 #include <cmath>
+#include <cstdio>
 #include <string>
 
 #include "kernel/error_handler.h"
@@ -12,20 +13,38 @@ namespace wm = window_messages;
 
 const char* color_hex(color c) {
   switch (c) {
-    case color::black: return "#000000";
-    case color::white: return "#ffffff";
-    case color::red: return "#e00000";
-    case color::green: return "#00a000";
-    case color::blue: return "#0000e0";
-    case color::yellow: return "#f0d000";
-    case color::violet: return "#a000c0";
-    case color::orange: return "#ff8000";
-    case color::cyan: return "#00b0c0";
-    case color::brown: return "#904000";
-    case color::pink: return "#ff70b0";
-    case color::grey: return "#a0a0a0";
+    case color::black:
+      return "#000000";
+    case color::white:
+      return "#ffffff";
+    case color::red:
+      return "#e00000";
+    case color::green:
+      return "#00a000";
+    case color::blue:
+      return "#0000e0";
+    case color::yellow:
+      return "#f0d000";
+    case color::violet:
+      return "#a000c0";
+    case color::orange:
+      return "#ff8000";
+    case color::cyan:
+      return "#00b0c0";
+    case color::brown:
+      return "#904000";
+    case color::pink:
+      return "#ff70b0";
+    case color::grey:
+      return "#a0a0a0";
   }
   return "#000000";
+}
+
+std::string pixel_number(double v) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f", v);
+  return text;
 }
 
 window::window(int width, int height, std::string title)
@@ -142,7 +161,8 @@ void window::draw_line(double x1, double y1, double x2, double y2) {
     draw_point(x1, y1);
     return;
   }
-  const double reach = std::hypot(xmax_ - xmin_, ymax_ - ymin_) + std::hypot(x1 - xmin_, y1 - ymin_);
+  const double reach =
+      std::hypot(xmax_ - xmin_, ymax_ - ymin_) + std::hypot(x1 - xmin_, y1 - ymin_);
   const double ux = dx / length * reach, uy = dy / length * reach;
   draw_segment(x1 - ux, y1 - uy, x1 + ux, y1 + uy);
 }

@@ -13,10 +13,26 @@
 
 namespace mero {
 
-enum class color { black, white, red, green, blue, yellow, violet, orange, cyan, brown, pink, grey };
+enum class color {
+  black,
+  white,
+  red,
+  green,
+  blue,
+  yellow,
+  violet,
+  orange,
+  cyan,
+  brown,
+  pink,
+  grey
+};
 
 // "#rrggbb", the same for every backend.
 const char* color_hex(color c);
+
+// A pixel coordinate as the backends write it: two decimals, finer than any screen, and short.
+std::string pixel_number(double v);
 
 struct text_font {
   std::string family = "Helvetica";
@@ -51,9 +67,9 @@ class window {
   struct item {
     enum class kind { button, menu, string, text };
     kind what;
-    std::string label;       // the button's or menu's label, the string item's label, the text
-    int number = 0;          // buttons: their result; menus: the result of the first entry
-    std::string* variable = nullptr;  // string items
+    std::string label;  // the button's or menu's label, the string item's label, the text
+    int number = 0;     // buttons: their result; menus: the result of the first entry
+    std::string* variable = nullptr;   // string items
     std::vector<std::string> entries;  // menus
   };
 

@@ -15,7 +15,8 @@ inline constexpr message bad_pixrect{1, "window::create_pixrect(): size and data
 inline constexpr message tk_failed{1, "window: Tk refused a command: "};
 
 // The note on the error stream, given once, when a windowed run cannot show a window.
-inline constexpr const char* no_window_note = "mero: no window can be shown (%s); going on without windows";
+inline constexpr const char* no_window_note =
+    "mero: no window can be shown (%s); going on without windows";
 inline constexpr const char* no_display_reason = "DISPLAY is not set";
 
 // The dialog faces of the reporters.

@@ -78,10 +78,17 @@ void windowed_report_sink(const report& r) {
     return;
   }
   switch (r.what) {
-    case report::kind::error: error_panel(r); break;
-    case report::kind::message: message_panel(r); break;
-    case report::kind::question: question_panel(r); break;
-    case report::kind::end: break;
+    case report::kind::error:
+      error_panel(r);
+      break;
+    case report::kind::message:
+      message_panel(r);
+      break;
+    case report::kind::question:
+      question_panel(r);
+      break;
+    case report::kind::end:
+      break;
   }
 }
 

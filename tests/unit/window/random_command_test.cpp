@@ -51,8 +51,10 @@ TEST(random_command, ValuesStayInTheirRange) {
   };
   for (const range& r : {range{"random 0 10", 0, 10}, range{"random 10 0", 0, 10},
                          range{"random 3abc 7x", 3, 7}, range{"random -5 -3", -5, -3}}) {
-    const std::string loop = std::string("set lo 1000; set hi -1000; for {set i 0} {$i < 200000} "
-                                         "{incr i} { ") + r.call +
+    const std::string loop = std::string(
+                                 "set lo 1000; set hi -1000; for {set i 0} {$i < 200000} "
+                                 "{incr i} { ") +
+                             r.call +
                              "; if {$ranint < $lo} {set lo $ranint}; "
                              "if {$ranint > $hi} {set hi $ranint} }; list $lo $hi";
     ASSERT_EQ(t.eval(loop), TCL_OK) << t.result();

@@ -2,9 +2,10 @@
 // hand, the attributes' old values, the numbering of buttons and menus, the faults the kernel
 // handler reports, and the SVG elements each drawing call leaves.
 
+#include "kernel/window/svg_window.h"
+
 #include <string>
 
-#include "kernel/window/svg_window.h"
 #include "kernel/window/window_messages.h"
 #include "kernel/window/windowed_faces.h"
 #include "test_support.h"
@@ -44,13 +45,16 @@ TEST(svg_window, FiguresBecomeElementsAtTheirPixels) {
   const std::string svg = w.svg();
   EXPECT_TRUE(has(svg, "width=\"400\" height=\"300\""));
   EXPECT_TRUE(has(svg, "<title>a &lt;b&gt;</title>"));
-  EXPECT_TRUE(has(svg, "<polyline points=\"40.00,260.00 360.00,40.00\" fill=\"none\" "
-                       "stroke=\"#000000\" stroke-width=\"1\""));
+  EXPECT_TRUE(has(svg,
+                  "<polyline points=\"40.00,260.00 360.00,40.00\" fill=\"none\" "
+                  "stroke=\"#000000\" stroke-width=\"1\""));
   EXPECT_TRUE(has(svg, "<circle cx=\"200.00\" cy=\"150.00\" r=\"40.00\" fill=\"#e00000\""));
-  EXPECT_TRUE(has(svg, "<circle cx=\"0.00\" cy=\"300.00\" r=\"20.00\" fill=\"none\" "
-                       "stroke=\"#e00000\" stroke-width=\"3\""));
-  EXPECT_TRUE(has(svg, "<polygon points=\"0.00,300.00 80.00,300.00 80.00,260.00\" "
-                       "fill=\"#e00000\""));
+  EXPECT_TRUE(has(svg,
+                  "<circle cx=\"0.00\" cy=\"300.00\" r=\"20.00\" fill=\"none\" "
+                  "stroke=\"#e00000\" stroke-width=\"3\""));
+  EXPECT_TRUE(has(svg,
+                  "<polygon points=\"0.00,300.00 80.00,300.00 80.00,260.00\" "
+                  "fill=\"#e00000\""));
   EXPECT_TRUE(has(svg, "<text x=\"40.00\" y=\"0.00\""));
   EXPECT_TRUE(has(svg, ">x &amp; y</text>"));
   w.clear();

@@ -2,11 +2,12 @@
 // that the world frame gives, and presses, clicks and closes end read_mouse and open with the
 // right numbers. Buttons are pressed through the layer's own interpreter.
 
+#include "kernel/window/tk_window.h"
+
 #include <tcl.h>
 
 #include <string>
 
-#include "kernel/window/tk_window.h"
 #include "kernel/window/window_messages.h"
 #include "kernel/window/windowed_faces.h"
 #include "test_support.h"
