@@ -3,7 +3,7 @@ its panels, which xdotool answers with the keyboard (Return presses the last but
 first). Nothing is printed on the console while a panel is shown.
 
   $ command -v xdotool > /dev/null || exit 80
-  $ panel() { xdotool search --sync --onlyvisible --name "^$1\$" | head -n 1; }
+  $ panel() { timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" | head -n 1; }
 
 A failing windowed run shows "MERO-ERROR"; after "OK" the process ends with status 1.
 
