@@ -116,9 +116,7 @@ void window::set_menu(const std::string& label, const std::vector<std::string>& 
     item_changed(i);
     return;
   }
-  std::string text = wm::illegal_menu.text;
-  text.replace(text.find("%s"), 2, label);
-  kernel_error(wm::illegal_menu.code, text);
+  kernel_error(wm::illegal_menu.code, format_message(wm::illegal_menu.text, {label}));
 }
 
 void window::string_item(const std::string& label, std::string& variable) {
