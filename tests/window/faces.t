@@ -14,10 +14,12 @@ A failing windowed run shows "MERO-ERROR"; after "OK" the process ends with stat
   [1]
   $ cat out.txt
 
-An option error uses the same panel.
+An option error uses the same panel; this time "OK" is clicked with the mouse, in the middle of
+the button row at the bottom of the panel.
 
   $ $MERO -x > out.txt 2>&1 &
-  $ panel MERO-ERROR > /dev/null && xdotool key Return; wait $!; echo "[$?]"
+  $ eval "$(xdotool getwindowgeometry --shell "$(panel MERO-ERROR)")"
+  $ xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT - 18)) click 1; wait $!; echo "[$?]"
   [1]
   $ cat out.txt
 
