@@ -123,6 +123,9 @@ bool tk_window::realize() {
   call({"wm", "withdraw", path_});
   call({"wm", "title", path_, title()});
   call({"wm", "protocol", path_, "WM_DELETE_WINDOW", "::mero::event " + id + " close"});
+  // A toplevel destroyed by anything but close() ends a wait as a close from the frame does.
+  call({"bind", path_, "<Destroy>",
+        "if {\"%W\" eq \"" + path_ + "\"} {::mero::event " + id + " destroyed}"});
   call({"frame", path_ + ".p"});
   call({"frame", path_ + ".b"});
   call({"pack", path_ + ".p", "-side", "top", "-fill", "x", "-padx", "8", "-pady", "4"});
@@ -305,6 +308,11 @@ void tk_window::deliver(const std::vector<std::string>& words) {
     event_ = -std::atoi(words[1].c_str());
     set_clicked(std::atof(words[2].c_str()), std::atof(words[3].c_str()));
   } else if (kind == "close") {
+    event_ = close_value();
+  } else if (kind == "destroyed") {
+    for (const std::string& name : images_) call({"image", "delete", name});
+    images_.clear();
+    realized_ = false;
     event_ = close_value();
   } else {
     return;

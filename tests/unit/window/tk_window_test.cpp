@@ -74,6 +74,11 @@ TEST_F(tk_window_test, ButtonsClicksAndTheFrameEndReadMouse) {
   w.set_close_value(4);
   soon("eval [wm protocol " + w.path() + " WM_DELETE_WINDOW]");
   EXPECT_EQ(w.read_mouse(), 4);
+  // Destroyed from outside, the window ends the wait all the same and is built anew when needed.
+  soon("destroy " + w.path());
+  EXPECT_EQ(w.read_mouse(), 4);
+  w.display();
+  EXPECT_EQ(tcl("winfo exists " + w.canvas_path()), "1");
 }
 
 // The question panel: "cancel" is button 0 and "ok" button 1, and a modal open returns the one
