@@ -51,6 +51,10 @@ the random location file and the editor.
   > ::front::editor_save
   > run_and_wait ::front::run
   > show
+  > set ::front::windowed 1
+  > set ::front::field(-l) [pwd]/bad.loc
+  > run_and_wait { ::front::run; after 1500 ::front::stop }
+  > show
   > exit 0
   > TCL
   $ printf 'begin {location} [2,1]\n1 2 oops\nend {location}\n' > bad.loc
@@ -108,7 +112,7 @@ anywhere from 1 to 5 (weight 2 at each end): the segment from (3, 1) to (3, 5), 
 
   $ grep -c '^[0-9]* -5 [123] \[P[1-6]\]$' random_kept.loc
   6
-  $ sed -n '29,$p' front.txt
+  $ sed -n '29,45p' front.txt
   | $ mero -a l1_sum -l */random.loc --output=nowindowed (glob)
   | begin {result}
   | begin {classification}
@@ -126,3 +130,10 @@ anywhere from 1 to 5 (weight 2 at each end): the segment from (3, 1) to (3, 5), 
   | end {result}
   | 
   | mero ended normally.
+
+A windowed run of the bad file waits on its error panel until the Stop button's command ends it.
+
+  $ sed -n '46,$p' front.txt
+  | $ mero -a l1_sum -l */bad.loc --output=windowed (glob)
+  | 
+  | mero was stopped (killed by SIGTERM).
