@@ -7,14 +7,8 @@ namespace mero {
 
 namespace {
 
-struct entry {
-  chain in;
-  const char* name;
-  int number;
-};
-
 // The order within a chain does not matter: names are unique in their chain.
-const entry names[] = {
+const algorithm_name names[] = {
     {chain::A, "l1_sum", 0},
     {chain::A, "l2_sum", 1},
     {chain::A, "l2sqr_sum", 2},
@@ -236,8 +230,10 @@ std::string printf_string(const char* format, auto... args) {
 
 }  // namespace
 
+std::span<const algorithm_name> algorithm_names() { return names; }
+
 int find_algorithm(chain in, std::string_view name) {
-  for (const entry& e : names)
+  for (const algorithm_name& e : names)
     if (e.in == in && name == e.name) return e.number;
   return no_algorithm;
 }

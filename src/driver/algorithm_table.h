@@ -2,6 +2,7 @@
 // Every algorithm name the command line accepts, by chain, with its number; and the label (the
 // five-field classification) reported for each number.
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,15 @@ namespace mero {
 enum class chain { A, N, R, G, RG };
 
 constexpr int no_algorithm = 999;
+
+struct algorithm_name {
+  chain in;
+  const char* name;
+  int number;
+};
+
+// Every name of every chain, in the table's order (the front end's list is made from it).
+std::span<const algorithm_name> algorithm_names();
 
 // The number of the name in the chain, or no_algorithm. Names are compared exactly.
 int find_algorithm(chain in, std::string_view name);

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "driver/driver_messages.h"
-#include "driver/front_end.h"
 #include "driver/lpinfo.h"
 #include "driver/problem_run.h"
 #include "driver/usage.h"
@@ -177,7 +176,6 @@ run_request parse_command_line(const std::vector<std::string>& args) {
 }
 
 int run_command_line(int argc, char** argv) {
-  if (argc <= 1) return start_front_end(argc, argv);
   run_problem(parse_command_line(std::vector<std::string>(argv + 1, argv + argc)));
   return 0;
 }

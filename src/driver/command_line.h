@@ -13,7 +13,8 @@ namespace mero {
 // A -p value is written to lpinfo as soon as it is accepted.
 run_request parse_command_line(const std::vector<std::string>& args);
 
-// Returns 0 on every path that returns; with no argument it starts the front end.
+// Runs the problem that the arguments name and returns 0 on every path that returns. Without an
+// argument the program starts the front end instead (main does that: it needs Tk).
 int run_command_line(int argc, char** argv);
 
 }  // namespace mero

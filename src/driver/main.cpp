@@ -1,3 +1,11 @@
 #include "driver/command_line.h"
+#include "driver/front_end/front_end.h"
+#include "kernel/window/windowed_faces.h"
 
-int main(int argc, char** argv) { return mero::run_command_line(argc, argv); }
+// The program: the reporters get their windowed faces, then the program name alone starts the
+// front end and anything else runs one problem.
+int main(int argc, char** argv) {
+  mero::install_windowed_faces();
+  if (argc <= 1) return mero::start_front_end(argc, argv);
+  return mero::run_command_line(argc, argv);
+}

@@ -121,71 +121,93 @@ must not look like an option.
 
   $ r() { local out; out=$("$MERO" "$@" 2>&1); echo "$out [$?]"; }
   $ r -l -a x
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Missing value for option -l ErrorCode: 1002 [1]
   $ r -a l1_sum -a l2_sum
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Unrecognized option -al2_sum ErrorCode: 1005 [1]
   $ r -a=l1_sum -lfile -l:other
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Unrecognized option -lother ErrorCode: 1005 [1]
   $ r plain
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Unrecognized option plain ErrorCode: 1005 [1]
 
 Long options other than --output are ignored; without -a and a main file nothing runs.
 
   $ r --
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006 [1]
   $ r --foo -a l1_sum
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: You have to specify an algorithm and a location file. ErrorCode: 1006 [1]
   $ r -l f --output
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Missing value for option --output. ErrorCode: 1003 [1]
   $ r --output -a l1_sum -l f
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Missing value for option --output. ErrorCode: 1003 [1]
   $ r --outputx
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Option --outputx is not a valid --output option. ErrorCode: 1004 [1]
 
 Unknown names are reported with the code of the chain that the files select; an empty name at
 the end of the line is unknown too.
 
   $ r -l f -a
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Illegal algorithm or missing data. ErrorCode: 1007 [1]
   $ r -l f -m m -a l1_sum
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Illegal algorithm or missing data. ErrorCode: 1008 [1]
   $ r -l f -r r -a l1_sum
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Illegal algorithm or missing data. ErrorCode: 1009 [1]
   $ r -l f -d g -a L_block_max_M3
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Illegal algorithm or missing data. ErrorCode: 1010 [1]
 
 With restrictions and gauges an unknown name prints the usage text alone; so does any name with
 gauges and a matrix.
 
   $ $MERO -l f -r r -d g -a restr_gauge_centre < /dev/null | tail -2
-  \tFor solving the UFL you can call discrete.exe in the bin  (esc)
-  \tdirectory without parameters.  (esc)
+  	For solving the UFL you can call discrete.exe in the bin 
+  	directory without parameters. 
   $ $MERO -l f -m m -d g -a gauge_median < /dev/null > /dev/null; echo $?
   0
 
 The p and N checks.
 
   $ r -l f -a lp_sum
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Missing p-value for lp-algorithm. ErrorCode: 1011 [1]
   $ r -g f -a N_median_exchange
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Missing number of new facilities for algorithms on graphs. ErrorCode: 1012 [1]
 
 -p writes lpinfo as soon as it is accepted, into $tmp, else $TMPDIR, else /tmp; atoi rules.
 
   $ mkdir t u && tmp=$PWD/t r -p 3 -x && cat t/lpinfo && echo
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Unrecognized option -x ErrorCode: 1005 [1]
   3 0.0001 0.0001 50
   $ (unset tmp; TMPDIR=$PWD/u r -p=x -x) && cat u/lpinfo && echo
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Unrecognized option -x ErrorCode: 1005 [1]
   0 0.0001 0.0001 50
 
-Errors in a windowed run without a window layer still reach the console.
+Errors in a windowed run without a display reach the console, after the note that no window can
+be shown (every error above is such a run: windowed is the default).
 
   $ r -l f -a unknown --output=windowed
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   MERO error: Illegal algorithm or missing data. ErrorCode: 1007 [1]
 
-Without any argument the program looks for its front end beside it; without the script it says
-so and ends normally.
+Without any argument the program starts its front end: Tk comes first, and without a display it
+cannot start, says so and ends with status 1 (the script lookup is tested on a display, in
+tests/window/bridge.t).
 
   $ $MERO
-  Cannot find Tcl-script merofront.
+  Tk_Init failed: couldn't connect to display ""
+  this isn't a Tk application
+  [1]
