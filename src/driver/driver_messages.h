@@ -26,6 +26,9 @@ inline constexpr message missing_n{1012,
 inline constexpr message result_not_finite{
     1013, "The result is not finite: coordinates or weights are too large."};
 
+// --picture names a file that cannot be written; the run ends before its report.
+inline constexpr message picture_unwritable{1515, "Can't write picture file \"%s\""};
+
 // A message, not an error: the run goes on.
 inline constexpr message one_location{
     0, "There is only one location given, so this location is optimal"};

@@ -2,6 +2,8 @@
 
 #include "driver/problem_kind.h"
 #include "driver/run_context.h"
+#include "driver/viewer_hooks.h"
+#include "driver/driver_messages.h"
 #include "kernel/error_handler.h"
 #include "model/location_file.h"
 #include "model/model_messages.h"
@@ -43,6 +45,28 @@ void write_situations(run_context& ctx, std::ostream& report) {
   location::WriteAsPolygonList(report, ctx.situations);
 }
 
+planar_scene scene_of(run_context& ctx) {
+  planar_scene scene;
+  scene.label = ctx.label;
+  scene.value = ctx.objective.empty() ? 0.0 : ctx.objective[0];
+  scene.problem = &ctx.problem;
+  scene.results = &ctx.results;
+  scene.restrictions = &ctx.restrictions;
+  scene.situations = &ctx.situations;
+  scene.algorithm = ctx.request.algorithm;
+  return scene;
+}
+
+void show_planar(run_context& ctx) {
+  if (installed_viewers().show_planar) installed_viewers().show_planar(scene_of(ctx));
+}
+
+void picture_planar(run_context& ctx, const std::string& path) {
+  if (!installed_viewers().picture_planar) return;
+  if (!installed_viewers().picture_planar(scene_of(ctx), path))
+    report_error(driver_messages::picture_unwritable, {path});
+}
+
 }  // namespace
 
 void write_objective_value(double value, std::ostream& report) {
@@ -50,13 +74,14 @@ void write_objective_value(double value, std::ostream& report) {
 }
 
 problem_kind planar_kind() {
-  return {any_request, load_locations, weight_columns, write_planar_value, write_results};
+  return {any_request,        load_locations, weight_columns, write_planar_value,
+          write_results,      show_planar,    picture_planar};
 }
 
 // A location file of the "GaugeLoc" type, given with a gauge file.
 problem_kind gauge_kind() {
-  return {has_gauge_file, load_gauge_locations, weight_columns, write_situation_value,
-          write_situations};
+  return {has_gauge_file,   load_gauge_locations, weight_columns, write_situation_value,
+          write_situations, show_planar,          picture_planar};
 }
 
 }  // namespace mero

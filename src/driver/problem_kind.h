@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <iosfwd>
+#include <string>
 #include <vector>
 
 #include "driver/run_request.h"
@@ -29,6 +30,9 @@ struct problem_kind {
   // Shows the solved problem in its viewer in a windowed run, after "Open Window"; returns when
   // the user closes it. Null while the kind has no viewer: the window is only announced.
   void (*show)(run_context& ctx) = nullptr;
+  // Writes the picture the viewer would show first to path (--picture); null while the kind has
+  // no viewer.
+  void (*picture)(run_context& ctx, const std::string& path) = nullptr;
 };
 
 problem_kind gauge_kind();

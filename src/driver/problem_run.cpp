@@ -44,6 +44,12 @@ void solve(run_context& ctx) {
   ctx.label = format_label(c->number, ctx.label_args);
 }
 
+// The picture comes before the window and the report, so that a picture that cannot be written
+// ends the run without a report.
+void write_picture(run_context& ctx, const problem_kind& kind) {
+  if (!ctx.request.picture_file.empty() && kind.picture) kind.picture(ctx, ctx.request.picture_file);
+}
+
 void show_window(run_context& ctx, const problem_kind& kind) {
   if (!ctx.request.windowed) return;
   std::cout << "Open Window" << std::endl << std::endl;
@@ -74,6 +80,7 @@ void run_problem(const run_request& request) {
   if (ctx.problem.size() == 1) report_message(driver_messages::one_location, true);
   ctx.objective.resize(kind.objective_size(ctx));
   solve(ctx);
+  write_picture(ctx, kind);
   show_window(ctx, kind);
   write_report(ctx, kind, out);
 }

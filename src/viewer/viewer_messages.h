@@ -1,0 +1,47 @@
+#pragma once
+// The texts and codes of the result viewers, in one place.
+
+#include "kernel/reporters.h"
+
+namespace mero::viewer_messages {
+
+inline constexpr message no_location{1514, "There is less than one location"};
+inline constexpr message save_failed{1513, "Can't write the results"};
+// The save file cannot be opened: shown in a panel, the viewer goes on.
+inline constexpr const char* cannot_open_save = "Can't open file \"%s\"!";
+
+inline constexpr const char* title_prefix = "MERO VERSION 2.0   View Graphics:";
+
+// The buttons of the planar viewer and the numbers the event loop receives.
+inline constexpr const char* save_results = "Save Results";
+inline constexpr const char* view_results = "View Results";
+inline constexpr const char* convex_hull = "Convex Hull";
+inline constexpr const char* show_hide_weights = "Show/Hide Weights";
+inline constexpr const char* view_gauge = "View Gauge";
+inline constexpr const char* crit_situation = "Crit Situation";
+inline constexpr const char* show_hide_optima = "Show/Hide Optima";
+inline constexpr const char* refresh = "Refresh";
+inline constexpr const char* close = "Close";
+inline constexpr int save_number = 1, view_number = 4, hull_number = 3, weights_number = 5,
+                     gauge_number = 6, situation_number = 7, optima_number = 10,
+                     refresh_number = 8, close_number = 9;
+
+// The panels.
+inline constexpr const char* save_panel = "Save results";
+inline constexpr const char* file_item = "file:";
+inline constexpr const char* ok = "ok";
+inline constexpr const char* cancel = "cancel";
+inline constexpr const char* results_panel = "Results of computation";
+inline constexpr const char* results_header = "%-21s            %-13s";
+inline constexpr const char* optimum_word = "OPTIMUM:";
+inline constexpr const char* value_word = "OBJECTIVE VALUE:";
+inline constexpr const char* results_rule = "------------------------------";
+inline constexpr const char* first_row = "(%8.3lf ,%8.3lf )            %13.3lf";
+inline constexpr const char* further_row = "(%8.3lf ,%8.3lf )";
+
+// The picture's texts.
+inline constexpr const char* axis_label = "%3.1lf";
+inline constexpr const char* first_weight = "%1.2lf";
+inline constexpr const char* further_weight = ",%1.2lf";
+
+}  // namespace mero::viewer_messages
