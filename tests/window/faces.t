@@ -24,13 +24,15 @@ the button row at the bottom of the panel.
   $ cat out.txt
 
 A message that goes on (one location) shows "MERO-MESSAGE"; after "OK" the run goes on to its
-report.
+report, after the result viewer is closed (seven Tabs reach its "Close", the space presses it).
 
   $ printf 'begin {location} [2,1]\n3 4 2\nend {location}\n' > one.loc
   $ $MERO -a l1_sum -l one.loc --output=file=one.txt > out.txt 2>&1 &
   $ id=$(panel MERO-MESSAGE) && xdotool getwindowname $id
   MERO-MESSAGE
-  $ xdotool key Return; wait $!; echo "[$?]"
+  $ xdotool key Return
+  $ id=$(timeout 20 xdotool search --sync --onlyvisible --name '^MERO VERSION 2.0' | head -n 1)
+  $ xdotool windowfocus --sync $id key Tab Tab Tab Tab Tab Tab Tab space; wait $!; echo "[$?]"
   [0]
   $ cat out.txt; sed -n '6p;9p' one.txt
   Open Window
