@@ -10,10 +10,12 @@ and (4,6) with weight 1 is (1,2), at distance 3 + 4 = 7 from (4,6).
   7
   1 2 
 
-A windowed run announces its window before the report (no window layer shows one yet); with a
-file the report goes there and nothing else is printed.
+A windowed run announces its window before the report; without a display the viewer says on the
+error stream that it cannot be shown and the run goes on. With a file the report goes there and
+nothing else is printed.
 
   $ $MERO -a l1_sum -l two.loc | head -3
+  mero: no window can be shown (DISPLAY is not set); going on without windows
   Open Window
   
   begin {result}
