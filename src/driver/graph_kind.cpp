@@ -1,7 +1,9 @@
 #include <iostream>
 
 #include "driver/problem_kind.h"
+#include "driver/driver_messages.h"
 #include "driver/run_context.h"
+#include "driver/viewer_hooks.h"
 #include "network/graph_file_io.h"
 
 namespace mero {
@@ -38,10 +40,18 @@ void write_graph_optima(run_context& ctx, std::ostream&) {
   std::cout.flush();
 }
 
+void picture_graph(run_context& ctx, const std::string& path) {
+  if (!installed_viewers().picture_graph) return;
+  const graph_scene scene{ctx.label, &ctx.graph, &ctx.problem};
+  if (!installed_viewers().picture_graph(scene, path))
+    report_error(driver_messages::picture_unwritable, {path});
+}
+
 }  // namespace
 
 problem_kind graph_kind() {
-  return {is_graph_request, load_graph, criteria, write_graph_value, write_graph_optima};
+  return {is_graph_request, load_graph,    criteria, write_graph_value, write_graph_optima,
+          nullptr,          picture_graph};
 }
 
 }  // namespace mero

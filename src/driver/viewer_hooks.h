@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "viewer/graph_scene.h"
 #include "viewer/planar_scene.h"
 
 namespace mero {
@@ -14,6 +15,8 @@ struct viewer_hooks {
   void (*show_planar)(const planar_scene& scene) = nullptr;
   // Writes the viewer's first picture to path; false if the file cannot be written.
   bool (*picture_planar)(const planar_scene& scene, const std::string& path) = nullptr;
+  // The same for a result on a graph.
+  bool (*picture_graph)(const graph_scene& scene, const std::string& path) = nullptr;
 };
 
 viewer_hooks& installed_viewers();
