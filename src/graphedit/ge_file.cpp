@@ -42,7 +42,7 @@ class ge_lines {
   // The next line, which must exist; `what` names the section for the message.
   std::string next(const char* what) {
     std::string text;
-    if (!std::getline(in_, text)) report_error(msg::ge_early_end, {name_, line_, what});
+    if (!std::getline(in_, text)) report_error(msg::ge_early_end, {name_, line_ + 1, what});
     ++line_;
     if (!text.empty() && text.back() == '\r') text.pop_back();
     return text;
