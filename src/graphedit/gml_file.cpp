@@ -157,9 +157,12 @@ class gml_parser {
     if (at_ >= text_.size()) syntax();
     char c = text_[at_];
     if (c == '[') {
+      // Deeper nesting than any drawing needs is refused before it exhausts the stack.
+      if (++depth_ > 200) syntax();
       ++at_;
       v.what = gml_value::kind::list;
       v.list = std::make_shared<gml_list>(parse_list(&key, v.line));
+      --depth_;
     } else if (c == '"') {
       std::size_t end = text_.find('"', at_ + 1);
       if (end == std::string::npos) report_error(msg::gml_unterminated_string, {name_, line_});
@@ -197,6 +200,7 @@ class gml_parser {
   const std::string& name_;
   std::size_t at_ = 0;
   int line_ = 1;
+  int depth_ = 0;
 };
 
 // ---- from the tree to the graph ----
