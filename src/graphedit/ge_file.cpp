@@ -242,6 +242,14 @@ std::string unescape_line(const std::string& text) {
   return out;
 }
 
+void write_text_file(const std::string& file_name,
+                     const std::function<void(std::ostream&)>& write) {
+  std::ofstream out(file_name);
+  if (!out) report_error(msg::cannot_write, {file_name});
+  write(out);
+  if (!out) report_error(msg::cannot_write, {file_name});
+}
+
 void write_ge(const ge_graph& x, std::ostream& out) {
   write_graph_file(x.g, out);
   const ge_settings& s = x.settings;
@@ -269,10 +277,7 @@ void write_ge(const ge_graph& x, std::ostream& out) {
 }
 
 void write_ge(const ge_graph& x, const std::string& file_name) {
-  std::ofstream out(file_name);
-  if (!out) report_error(msg::cannot_write, {file_name});
-  write_ge(x, out);
-  if (!out) report_error(msg::cannot_write, {file_name});
+  write_text_file(file_name, [&](std::ostream& out) { write_ge(x, out); });
 }
 
 void read_ge(ge_graph& x, std::istream& in, const std::string& name) {

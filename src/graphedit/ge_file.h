@@ -4,6 +4,7 @@
 // fonts, the two index formats, the multi-edge distance, one line of attributes per node and one
 // per edge (edges in the order of the native part).
 
+#include <functional>
 #include <istream>
 #include <ostream>
 #include <string>
@@ -21,6 +22,11 @@ void write_ge(const ge_graph& x, const std::string& file_name);
 // (name) and the line; x is then left as far as it was read.
 void read_ge(ge_graph& x, std::istream& in, const std::string& name);
 void read_ge(ge_graph& x, const std::string& file_name);
+
+// Opens the file, lets write fill it and checks that it was written; a file that cannot be
+// opened or written ends with "Cannot write graph file %s.".
+void write_text_file(const std::string& file_name,
+                     const std::function<void(std::ostream&)>& write);
 
 // Text helpers shared with the GML file.
 std::string escape_line(const std::string& text);

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <vector>
 
+#include "graphedit/ge_file.h"
 #include "graphedit/graphedit_messages.h"
 
 namespace mero {
@@ -506,10 +507,7 @@ void write_gml(const ge_graph& x, std::ostream& out) {
 }
 
 void write_gml(const ge_graph& x, const std::string& file_name) {
-  std::ofstream out(file_name);
-  if (!out) report_error(msg::cannot_write, {file_name});
-  write_gml(x, out);
-  if (!out) report_error(msg::cannot_write, {file_name});
+  write_text_file(file_name, [&](std::ostream& out) { write_gml(x, out); });
 }
 
 void read_gml(ge_graph& x, std::istream& in, const std::string& name) {

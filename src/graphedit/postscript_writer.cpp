@@ -6,7 +6,7 @@
 #include <fstream>
 #include <unordered_map>
 
-#include "graphedit/graphedit_messages.h"
+#include "graphedit/ge_file.h"
 #include "kernel/message.h"
 
 namespace mero {
@@ -263,13 +263,19 @@ class ps_writer {
       double mx = (path[k].xcoord() + path[k + 1].xcoord()) / 2;
       double my = (path[k].ycoord() + path[k + 1].ycoord()) / 2;
       point off = anchor_offset(a.label_position, 0, 0, x_.settings.edge_font_size);
-      font(x_.settings.edge_font, x_.settings.edge_font_size);
-      color(a.label_color);
-      text(label);
-      out_ << ' ';
-      page_point(mx + off.xcoord(), my + off.ycoord());
-      out_ << " ctext\n";
+      draw_label(label, x_.settings.edge_font, x_.settings.edge_font_size, a.label_color,
+                 point(mx + off.xcoord(), my + off.ycoord()));
     }
+  }
+
+  void draw_label(const std::string& label, const std::string& font_name, int size, int rgb,
+                  const point& at) {
+    font(font_name, size);
+    color(rgb);
+    text(label);
+    out_ << ' ';
+    page_point(at.xcoord(), at.ycoord());
+    out_ << " ctext\n";
   }
 
   void draw_node(node v) {
@@ -308,12 +314,8 @@ class ps_writer {
     if (!label.empty()) {
       point off = anchor_offset(a.label_position, a.radius1, a.radius2,
                                 x_.settings.node_font_size);
-      font(x_.settings.node_font, x_.settings.node_font_size);
-      color(a.label_color);
-      text(label);
-      out_ << ' ';
-      page_point(x + off.xcoord(), y + off.ycoord());
-      out_ << " ctext\n";
+      draw_label(label, x_.settings.node_font, x_.settings.node_font_size, a.label_color,
+                 point(x + off.xcoord(), y + off.ycoord()));
     }
   }
 
@@ -331,10 +333,7 @@ void write_postscript(const ge_graph& x, std::ostream& out, double scale) {
 }
 
 void write_postscript(const ge_graph& x, const std::string& file_name, double scale) {
-  std::ofstream out(file_name);
-  if (!out) report_error(graphedit_messages::cannot_write, {file_name});
-  write_postscript(x, out, scale);
-  if (!out) report_error(graphedit_messages::cannot_write, {file_name});
+  write_text_file(file_name, [&](std::ostream& out) { write_postscript(x, out, scale); });
 }
 
 }  // namespace mero
