@@ -13,11 +13,15 @@ namespace {
 
 const char* const format_error = "graph::read(): error in graph format.";
 
+// Raised inside the reader at the first fault of the body; the entry points turn it into the
+// kernel's report or into a result with the line of the fault.
+struct format_fault {};
+
 // The text between "|{" and its matching "}|", nested pairs included. Leading white space,
 // line ends too, is skipped; anything else before "|{" is a format error.
 std::string read_information(std::istream& in) {
   in >> std::ws;
-  if (in.get() != '|' || in.get() != '{') kernel_error(1, format_error);
+  if (in.get() != '|' || in.get() != '{') throw format_fault{};
   std::string text;
   int depth = 1;
   for (int c = in.get(); c != EOF; c = in.get()) {
@@ -31,19 +35,19 @@ std::string read_information(std::istream& in) {
     }
     text.push_back(static_cast<char>(c));
   }
-  kernel_error(1, format_error);
+  throw format_fault{};
   return text;
 }
 
 int read_count(std::istream& in) {
   long count = -1;
-  if (!(in >> count) || count < 0 || count > 1000000000L) kernel_error(1, format_error);
+  if (!(in >> count) || count < 0 || count > 1000000000L) throw format_fault{};
   return static_cast<int>(count);
 }
 
 std::string read_type_line(std::istream& in) {
   std::string line;
-  if (!std::getline(in >> std::ws, line)) kernel_error(1, format_error);
+  if (!std::getline(in >> std::ws, line)) throw format_fault{};
   while (!line.empty() && (line.back() == '\r' || line.back() == ' ')) line.pop_back();
   return line;
 }
@@ -65,7 +69,7 @@ void read_edges(graph& g, std::istream& in, const std::vector<node>& nodes, bool
     long s = 0, t = 0, r = 0;
     if (!(in >> s >> t >> r) || s < 1 || t < 1 || s > static_cast<long>(nodes.size()) ||
         t > static_cast<long>(nodes.size()) || r < 0)
-      kernel_error(1, format_error);
+      throw format_fault{};
     edge e =
         g.new_edge(nodes[static_cast<std::size_t>(s - 1)], nodes[static_cast<std::size_t>(t - 1)]);
     take_information(in, same_type, e, [&](std::istream& f, edge x) { g.read_edge_info(f, x); });
@@ -76,9 +80,8 @@ void read_edges(graph& g, std::istream& in, const std::vector<node>& nodes, bool
   }
 }
 
-}  // namespace
 
-int read_graph_file(graph& g, std::istream& in) {
+int read_graph_body(graph& g, std::istream& in) {
   g.clear();
   std::string word;
   if (!(in >> word) || word != "ORBA.GRAPH") return graph_read_not_a_graph;
@@ -93,6 +96,34 @@ int read_graph_file(graph& g, std::istream& in) {
   }
   read_edges(g, in, nodes, same_edges);
   return same_nodes && same_edges ? graph_read_ok : graph_read_other_types;
+}
+
+}  // namespace
+
+int read_graph_file(graph& g, std::istream& in) {
+  try {
+    return read_graph_body(g, in);
+  } catch (const format_fault&) {
+    kernel_error(1, format_error);
+  }
+  return graph_read_ok;
+}
+
+int read_graph_file(graph& g, std::istream& in, int& fault_line) {
+  std::streampos start = in.tellg();
+  try {
+    return read_graph_body(g, in);
+  } catch (const format_fault&) {
+    in.clear();
+    std::streampos at = in.tellg();
+    fault_line = 1;
+    if (start != std::streampos(-1) && at != std::streampos(-1)) {
+      in.seekg(start);
+      for (std::streamoff k = 0; k < at - start; ++k)
+        if (in.get() == '\n') ++fault_line;
+    }
+    return graph_read_format_error;
+  }
 }
 
 int read_graph_file(graph& g, const std::string& file_name) {

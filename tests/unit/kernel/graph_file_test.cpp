@@ -66,3 +66,30 @@ TEST(graph_file, results_and_messages) {
 
 }  // namespace
 }  // namespace mero
+
+namespace mero {
+namespace {
+
+// The form without the kernel's report gives the line of the fault instead, counted from where
+// the stream stood when reading began.
+TEST(graph_file, fault_line_instead_of_report) {
+  named_graph g;
+  int line = 0;
+  std::istringstream bad_node("ORBA.GRAPH\nstring\ndouble\n2\n|{a}|\n\n  b\n");
+  EXPECT_EQ(read_graph_file(g, bad_node, line), graph_read_format_error);
+  EXPECT_EQ(line, 7);
+  std::istringstream bad_edge("ORBA.GRAPH\nstring\ndouble\n1\n|{a}|\n1\n1 2 0 |{1}|\n");
+  EXPECT_EQ(read_graph_file(g, bad_edge, line), graph_read_format_error);
+  EXPECT_EQ(line, 7);
+  std::istringstream after_prefix("skip me\nORBA.GRAPH\nvoid\ndouble\n0\nx\n");
+  std::string first;
+  std::getline(after_prefix, first);
+  EXPECT_EQ(read_graph_file(g, after_prefix, line), graph_read_format_error);
+  EXPECT_EQ(line, 5);
+  std::istringstream good("ORBA.GRAPH\nstring\ndouble\n1\n|{a}|\n0\n");
+  EXPECT_EQ(read_graph_file(g, good, line), graph_read_ok);
+  EXPECT_EQ(g.number_of_nodes(), 1);
+}
+
+}  // namespace
+}  // namespace mero
