@@ -76,3 +76,12 @@ stingy value was 1 for two demand points at cost 1e308 each). UFL_Dualoc keeps i
   MERO error: UFL heuristics need costs and fixed costs between -L_INF and L_INF. ErrorCode: 3111
   MERO error: UFL_Dualoc needs costs and fixed costs between 0 and L_INF. ErrorCode: 3109
   [1]
+
+Counts that multiply beyond int: a weight dimension of 50000 asks the matrix file for 50000 by
+50000 entries, a number the message now writes whole (its product overflowed int before).
+
+  $ awk 'BEGIN { print "begin {location} [2,50000]"; for (r = 0; r < 2; r++) { printf "%d 0", r; for (i = 0; i < 50000; i++) printf " 1"; print "" } print "end" }' > wide.loc
+  $ printf 'begin {matrix} [2]\n0 1\n1 0\nend\n' > small.mat
+  $ $MERO -a N_l2sqr_sum -l wide.loc -m small.mat --output=nowindowed
+  MERO error: Matrix file holds 4 entries, fewer than the 2500000000 of a 50000 by 50000 matrix. ErrorCode: 1511
+  [1]
