@@ -22,6 +22,6 @@ function(mero_fuzz_harness name)
              COMMAND fuzz_${name}_replay ${MERO_FUZZ_DIR}/corpus/${name}
                      ${MERO_FUZZ_DIR}/regressions/${name})
     set_tests_properties(fuzz_replay_${name} PROPERTIES
-      ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
+      ENVIRONMENT "ASAN_OPTIONS=detect_leaks=1:max_allocation_size_mb=2048;UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1")
   endif()
 endfunction()
