@@ -27,6 +27,17 @@ reader's code; one that only underflows reads as 0.
   4
   0 0 
 
+The scanners take no "inf" or "nan" token for a number: such a token is a syntax error.
+
+  $ printf 'begin {location} [2,1]\ninf 2 1\nend\n' > inf.loc
+  $ $MERO -a l1_sum -l inf.loc --output=nowindowed
+  MERO error: Coordinate #1 expected in location file at line 2, found "inf 2 1" instead. ErrorCode: 1504
+  [1]
+  $ printf 'begin {location} [2,1]\n1 2 nan\nend\n' > nan.loc
+  $ $MERO -a l1_sum -l nan.loc --output=nowindowed
+  MERO error: Weight #1 expected in location file at line 2, found "nan" instead ErrorCode: 1504
+  [1]
+
 A -p value beyond the int range is refused instead of converted with undefined behaviour; other
 text still reads as atoi reads it.
 
