@@ -27,7 +27,7 @@ std::array<double, 3> solve_two_variable_model(
     set_upbo(lp.get(), col, upper[col]);
   }
   if (maximise) set_maxim(lp.get());
-// A caller that asks for `optimal` deals with an empty model itself; for all others a model
+  // A caller that asks for `optimal` deals with an empty model itself; for all others a model
   // without an optimum ends the run.
   if (optimal) {
     const int status = solve(lp.get());
