@@ -11,7 +11,7 @@ namespace mero {
 // lower[c] <= v_c <= upper[c] for c = 1, 2. All arrays are 1-based, entry 0 unused.
 // Returns v1, v2 and the objective value. A caller that must tell an empty model apart passes
 // `optimal`, which is set to whether lp_solve found an optimum (the values are then what lp_solve
-// left); without it, a model with no optimum ends the run (1360 unbounded, 1361 infeasible).
+// left); without it, a model with no optimum ends the run (1370 unbounded, 1371 infeasible).
 std::array<double, 3> solve_two_variable_model(int rows, const std::vector<double>& rhs,
                                                const std::vector<double>& a1,
                                                const std::vector<double>& a2,

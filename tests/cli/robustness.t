@@ -41,10 +41,10 @@ The scanners take no "inf" or "nan" token for a number: such a token is a syntax
 A -p value beyond the int range is refused instead of converted with undefined behaviour; other
 text still reads as atoi reads it.
 
-  $ $MERO -a lp_sum -l two.loc -p 2147483648 --output=nowindowed
+  $ $MERO --output=nowindowed -a lp_sum -l two.loc -p 2147483648
   MERO error: The value of -p is out of range: 2147483648 ErrorCode: 1014
   [1]
-  $ $MERO -a lp_sum -l two.loc -p=-99999999999 --output=nowindowed
+  $ $MERO --output=nowindowed -a lp_sum -l two.loc -p=-99999999999
   MERO error: The value of -p is out of range: -99999999999 ErrorCode: 1014
   [1]
 
@@ -55,10 +55,10 @@ value, which is no result. Negative weights leave the maximum models without a f
   $ printf 'begin {location} [2,2]\n0 0 1 1\n4 0 1 1\n0 4 1 1\nend\n' > three.loc
   $ printf 'begin {matrix} [2]\n0 -5\n-5 0\nend\n' > negative.mat
   $ $MERO -a N_l1_sum_v1 -l three.loc -m negative.mat --output=nowindowed
-  MERO error: The linear program is unbounded: the data give no optimal location. ErrorCode: 1360
+  MERO error: The linear program is unbounded: the data give no optimal location. ErrorCode: 1370
   [1]
   $ $MERO -a N_linf_max -l three.loc -m negative.mat --output=nowindowed
-  MERO error: The linear program has no feasible solution. ErrorCode: 1361
+  MERO error: The linear program has no feasible solution. ErrorCode: 1371
   [1]
 
 A weighted center with a negative weight has no optimum (its largest weighted distance falls

@@ -32,11 +32,11 @@ TEST(two_variable_model, no_optimum_is_reported) {
   // x >= 5 against x <= 3.
   EXPECT_REPORT(solve_two_variable_model(2, rhs, a1, a2, {0, 5, 0}, {0, 1e30, 10}, {0, 1, 1},
                                          false),
-                1361, "The linear program has no feasible solution.");
+                1371, "The linear program has no feasible solution.");
   // Maximise x + y with x + y <= 4 gone (a row of zeros) and no upper bounds.
   EXPECT_REPORT(solve_two_variable_model(2, rhs, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, {0, 1e30, 1e30},
                                          {0, 1, 1}, true),
-                1360, "The linear program is unbounded: the data give no optimal location.");
+                1370, "The linear program is unbounded: the data give no optimal location.");
 }
 
 }  // namespace
