@@ -1,9 +1,11 @@
 # Thin entry points; CMake does the building. Each target installs missing packages first.
 BUILD      ?= build
 TEST_BUILD ?= build-test
+FUZZ_BUILD ?= build-fuzz
+FUZZ_TIME  ?= 60
 JOBS       ?= $(shell nproc)
 
-.PHONY: deps build demo test bench clean
+.PHONY: deps build demo test bench fuzz clean
 
 deps:
 	@scripts/install-deps
@@ -26,5 +28,10 @@ test: deps
 bench: build
 	@for b in $(wildcard bench/*.sh); do echo "== $$b"; bash $$b || exit 1; done
 
+# Each libFuzzer harness of fuzz/ for FUZZ_TIME seconds, in a clang tree of its own (see
+# scripts/fuzz); `make test` only replays their corpora and kept reproducers.
+fuzz:
+	@scripts/fuzz $(FUZZ_BUILD) $(FUZZ_TIME) $(FUZZ_HARNESSES)
+
 clean:
-	rm -rf $(BUILD) $(TEST_BUILD) bin
+	rm -rf $(BUILD) $(TEST_BUILD) $(FUZZ_BUILD) bin

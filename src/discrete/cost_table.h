@@ -34,6 +34,10 @@ struct open_solution {
 // Copies the problem's costs. A problem without demand or without supply points is reported with
 // the empty-problem message, so that no solver ever meets one.
 cost_table make_cost_table(const discrete_problem& problem);
+// The same for the heuristics, which add costs as ordinary numbers: a cost or fixed cost larger
+// in size than L_INF (1e50) would overflow their sums or outweigh the forbidding L_INF, and is
+// reported (3111).
+cost_table make_heuristic_cost_table(const discrete_problem& problem);
 
 // Writes a solution into the problem: for each demand point the open supply point with the strict
 // smallest cost (the earliest on ties) gets 1.0 in `assignment`, and `opt` receives a copy of each

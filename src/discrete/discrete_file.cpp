@@ -80,7 +80,10 @@ void read_discrete_file(const std::string& path, discrete_problem& problem) {
 
 void write_discrete_file(const std::string& path, const discrete_problem& problem) {
   std::ofstream out;
-  if (!std::filesystem::is_directory(path)) out.open(path);
+  // A name that cannot be looked up (too long, a loop of links) is a file that cannot be opened,
+  // not an exception.
+  std::error_code unknown;
+  if (!std::filesystem::is_directory(path, unknown)) out.open(path);
   if (!out.is_open()) report_error(discrete_messages::writer_open);
   problem.write(out);
 }

@@ -27,6 +27,10 @@ inline constexpr message cost_shape{
 inline constexpr message dualoc_range{
     3109, "UFL_Dualoc needs costs and fixed costs between 0 and L_INF."};
 
+// The heuristics add costs as they stand; beyond L_INF in size their sums overflow.
+inline constexpr message cost_magnitude{
+    3111, "UFL heuristics need costs and fixed costs between -L_INF and L_INF."};
+
 // Syntax messages of the discrete file, in the order of the scanner's states.
 // Every syntax error of the discrete file has this code.
 inline constexpr message syntax_default{3107, "Syntaxerror in discrete file!"};

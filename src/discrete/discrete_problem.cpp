@@ -1,5 +1,7 @@
 #include "discrete/discrete_problem.h"
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "discrete/cost_table.h"
@@ -20,6 +22,15 @@ cost_table make_cost_table(const discrete_problem& problem) {
   for (int i = 0; i < t.m; ++i)
     for (int j = 0; j < t.n; ++j) t.c.push_back(problem.cost(i, j));
   for (const location& s : problem.supply) t.f.push_back(s.weight(0));
+  return t;
+}
+
+cost_table make_heuristic_cost_table(const discrete_problem& problem) {
+  cost_table t = make_cost_table(problem);
+  auto too_large = [](double x) { return !(std::fabs(x) <= infinite_cost); };
+  if (std::any_of(t.c.begin(), t.c.end(), too_large) ||
+      std::any_of(t.f.begin(), t.f.end(), too_large))
+    report_error(discrete_messages::cost_magnitude);
   return t;
 }
 

@@ -69,7 +69,7 @@ open_solution greedy_solution(const cost_table& t) {
 }
 
 double discrete_problem::UFL_Greedy() {
-  const cost_table t = make_cost_table(*this);
+  const cost_table t = make_heuristic_cost_table(*this);
   const open_solution s = greedy_solution(t);
   publish_solution(*this, t, s.open);
   return s.value;

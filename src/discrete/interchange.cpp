@@ -76,7 +76,7 @@ open_solution interchange_solution(const cost_table& t, bool supply_is_demand) {
 }
 
 double discrete_problem::UFL_Interchange() {
-  const cost_table t = make_cost_table(*this);
+  const cost_table t = make_heuristic_cost_table(*this);
   const open_solution s = interchange_solution(t, supply_is_demand);
   publish_solution(*this, t, s.open);
   return s.value;

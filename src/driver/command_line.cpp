@@ -1,5 +1,7 @@
 #include "driver/command_line.h"
 
+#include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <string_view>
 
@@ -19,6 +21,15 @@ namespace text = driver_messages;
 constexpr std::string_view value_letters = "algrmdpn";
 
 bool takes_value(char letter) { return value_letters.find(letter) != std::string_view::npos; }
+
+// The value of -p with the rules of atoi (leading blanks, a sign, digits, the rest ignored), where
+// a number beyond the int range is an error instead of undefined behaviour.
+int p_value(const std::string& value) {
+  errno = 0;
+  const long long p = std::strtoll(value.c_str(), nullptr, 10);
+  if (errno == ERANGE || p < INT_MIN || p > INT_MAX) report_error(text::p_out_of_range, {value});
+  return static_cast<int>(p);
+}
 
 // The state of the argument loop: the request being built and one flag per option family.
 struct parser {
@@ -94,7 +105,7 @@ bool parser::accept(const std::string& opt, const std::string& value) {
     request.gauge_file = value;
     have_gauge = request.have_gauge = true;
   } else if (opt == "-p" && !have_p) {
-    request.p = std::atoi(value.c_str());
+    request.p = p_value(value);
     write_lpinfo(*request.p);
     have_p = true;
   } else if (opt == "-n" && !have_n) {

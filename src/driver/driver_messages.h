@@ -25,6 +25,9 @@ inline constexpr message missing_n{1012,
 // with this message rather than a report of inf and nan.
 inline constexpr message result_not_finite{
     1013, "The result is not finite: coordinates or weights are too large."};
+// -p is read as atoi reads it (text that is no number gives 0), but a value beyond the int range,
+// which atoi would convert with undefined behaviour, is refused.
+inline constexpr message p_out_of_range{1014, "The value of -p is out of range: %s"};
 
 // --picture names a file that cannot be written; the run ends before its report.
 inline constexpr message picture_unwritable{1515, "Can't write picture file \"%s\""};

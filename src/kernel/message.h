@@ -4,6 +4,7 @@
 // <subsystem>_messages.h), so that the code that raises a message and the tests that expect it
 // read the same words. A text may be a format: %d (or %i) takes an integer, %s a text, in order.
 
+#include <concepts>
 #include <cstddef>
 #include <initializer_list>
 #include <string>
@@ -19,7 +20,10 @@ struct message {
 // One argument of a message format.
 struct message_arg {
   std::string text;
-  message_arg(int value) : text(std::to_string(value)) {}
+  // Any integer, so that a count wider than int (a product of two counts, a size) is written
+  // as it is.
+  template <std::integral T>
+  message_arg(T value) : text(std::to_string(value)) {}
   message_arg(std::string_view value) : text(value) {}
   message_arg(const std::string& value) : text(value) {}
   message_arg(const char* value) : text(value) {}

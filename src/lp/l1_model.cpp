@@ -37,7 +37,7 @@ void fill_columns(lprec* lp, int n, int m) {
 // Solves for one axis and copies the n coordinates; returns the objective.
 double solve_axis(lprec* lp, int n, const std::vector<double>& rhs, std::vector<double>& out) {
   set_rh_vec(lp, const_cast<double*>(rhs.data()));  // lp_solve only reads the array
-  solve(lp);
+  lp_model::solve_to_optimum(lp);
   const int rows = get_Nrows(lp);
   out.assign(n, 0.0);
   for (int j = 1; j <= n; ++j) out[j - 1] = lp->best_solution[rows + j];

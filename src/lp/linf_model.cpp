@@ -57,12 +57,12 @@ double solve_linf_model(int n, int rows_per_facility, int m, const std::vector<d
   set_rh_vec(lp.get(), const_cast<double*>(rhs_x.data()));  // lp_solve only reads the array
   for (int row = 1; row <= rows; ++row) set_constr_type(lp.get(), row, GE);
   for (int j = 1; j <= n; ++j) set_lowbo(lp.get(), j, lp_model::free_lower);
-  solve(lp.get());
+  lp_model::solve_to_optimum(lp.get());
   double value = lp->best_solution[0];
   x.assign(n, 0.0);
   for (int j = 1; j <= n; ++j) x[j - 1] = lp->best_solution[rows + j];
   set_rh_vec(lp.get(), const_cast<double*>(rhs_y.data()));
-  solve(lp.get());
+  lp_model::solve_to_optimum(lp.get());
   // The maximum norm takes the larger axis.
   if (lp->best_solution[0] > value) value = lp->best_solution[0];
   y.assign(n, 0.0);

@@ -4,9 +4,11 @@
 
 #include <lpsolve/lp_lib.h>
 
+#include <cmath>
 #include <memory>
 
 #include "kernel/error_handler.h"
+#include "lp/lp_messages.h"
 
 namespace mero::lp_model {
 
@@ -18,6 +20,26 @@ inline model_ptr make_model(int rows, int columns) {
   if (!lp) kernel_error(1, "lp_solve: cannot allocate a model");
   set_verbose(lp.get(), NEUTRAL);
   return lp;
+}
+
+// Solves the model; a result other than an optimum (unbounded, infeasible, a numerical failure)
+// ends the run with its message, so that no builder hands on the numbers of an unsolved model.
+// lp_solve calls some unbounded models optimal, with its infinity (1e30) as the objective value;
+// those are unbounded too.
+inline void solve_to_optimum(lprec* lp) {
+  switch (const int result = solve(lp)) {
+    case OPTIMAL:
+    case SUBOPTIMAL:
+    case PRESOLVED:
+      if (std::fabs(get_objective(lp)) >= get_infinite(lp)) report_error(lp_messages::unbounded);
+      return;
+    case UNBOUNDED:
+      report_error(lp_messages::unbounded);
+    case INFEASIBLE:
+      report_error(lp_messages::infeasible);
+    default:
+      report_error(lp_messages::not_solved, {result});
+  }
 }
 
 // Coordinates are free; lp_solve's columns are non-negative unless told otherwise.

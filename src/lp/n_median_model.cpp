@@ -55,7 +55,7 @@ double solve_n_median_model(int nodes, int columns, int p, const std::vector<dou
   }
   set_rh(lp.get(), rows, static_cast<double>(p));
   set_constr_type(lp.get(), rows, EQ);
-  solve(lp.get());
+  lp_model::solve_to_optimum(lp.get());
   result.assign(columns, 0);
   // Rounded rather than truncated: a binary that lp_solve reports as 0.9999999 is a 1.
   for (int col = 1; col <= columns; ++col)

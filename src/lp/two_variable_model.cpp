@@ -27,8 +27,14 @@ std::array<double, 3> solve_two_variable_model(
     set_upbo(lp.get(), col, upper[col]);
   }
   if (maximise) set_maxim(lp.get());
-  const int status = solve(lp.get());
-  if (optimal) *optimal = status == OPTIMAL || status == PRESOLVED;
+  // A caller that asks for `optimal` deals with an empty model itself; for all others a model
+  // without an optimum ends the run.
+  if (optimal) {
+    const int status = solve(lp.get());
+    *optimal = status == OPTIMAL || status == PRESOLVED;
+  } else {
+    lp_model::solve_to_optimum(lp.get());
+  }
   const int model_rows = get_Nrows(lp.get());
   return {lp->best_solution[model_rows + 1], lp->best_solution[model_rows + 2],
           lp->best_solution[0]};

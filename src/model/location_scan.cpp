@@ -29,7 +29,11 @@ void location_scan::start(std::istream& input, const char* file_type) {
 }
 
 void location_scan::complete_line() {
-  location& l = scanned_locations.emplace_back(location_dim, location_weight_dim);
+  // A location holds the coordinates its line gave: location_dim of them, or none on an "NC" line
+  // of a graph file, whose locations are dropped at the end. Sizing an NC location by the header
+  // instead would let a header dimension that no line backs ask for any amount of memory.
+  location& l = scanned_locations.emplace_back(static_cast<int>(line_coordinates.size()),
+                                               location_weight_dim);
   for (std::size_t i = 0; i < line_coordinates.size(); ++i)
     l.coordinate_ref(static_cast<int>(i)) = line_coordinates[i];
   for (std::size_t i = 0; i < line_weights.size(); ++i)

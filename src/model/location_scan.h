@@ -51,8 +51,8 @@ struct location_scan : scan_state {
   bool is_gauge_file() const;
   // Empties every list and starts a fresh read of input as a file of the given type.
   void start(std::istream& input, const char* file_type);
-  // The line is complete: its numbers become a location(location_dim, location_weight_dim),
-  // named by the name seen or by the empty string. A weight dimension of 0 still had to read one
+  // The line is complete: its numbers become a location(location_dim, location_weight_dim) (of
+  // no coordinates for an "NC" line), named by the name seen or by the empty string. A weight dimension of 0 still had to read one
   // weight, and storing it then fails with error 1209.
   void complete_line();
 };

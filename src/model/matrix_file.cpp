@@ -23,8 +23,7 @@ matrix read_matrix(std::istream& in, const std::list<location>& locations) {
   const int n = locations.front().weight_dim();
   const std::size_t needed = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
   if (scan.entries.size() < needed) {
-    const int have = static_cast<int>(scan.entries.size());
-    report_error(texts::too_few_entries, {have, n * n, n, n});
+    report_error(texts::too_few_entries, {scan.entries.size(), needed, n, n});
   }
   // Row by row in file order; numbers beyond n * n are left over.
   matrix v(n, n);

@@ -45,6 +45,12 @@ inline constexpr message l1_all_zero{
 
 }  // namespace model_messages
 
+// Shared by every scanner; reported, like its other syntax messages, under the reader's code.
+namespace scan_messages {
+inline constexpr message number_out_of_range{
+    0, "Number %s at line %d is beyond the range of a double."};
+}  // namespace scan_messages
+
 namespace location_file_messages {
 inline constexpr message cannot_open{1503, "Can't open file!"};
 inline constexpr message syntax_error{1504, "Syntaxerror in location file!"};

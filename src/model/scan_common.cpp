@@ -1,9 +1,13 @@
 #include "model/scan_common.h"
 
+#include <algorithm>
 #include <climits>
+#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+
+#include "model/model_messages.h"
 
 namespace mero {
 
@@ -14,6 +18,8 @@ void scan_state::reset(std::istream& input, const mero::message& default_message
   comment_return = 0;
   message = default_message.text;
   tail_at = std::string::npos;
+  out_of_range.clear();
+  out_of_range_line = 0;
 }
 
 int scan_stop(scan_state& s, const message& format, std::initializer_list<message_arg> args) {
@@ -61,7 +67,26 @@ std::ifstream open_scan_input(const std::string& path, const message& cannot_ope
   return in;
 }
 
-double scan_real(const char* text) { return std::strtod(text, nullptr); }
+double scan_real(scan_state& s, const char* text) {
+  const double value = std::strtod(text, nullptr);
+  if (std::isinf(value) && s.out_of_range.empty()) {
+    std::string_view token(text);
+    const std::size_t end = token.find_first_of(" \t\r\n");
+    s.out_of_range = token.substr(0, end);
+    // The token may end with its line's newline, which the line counter has already passed.
+    s.out_of_range_line = s.line - static_cast<int>(std::count(token.begin(), token.end(), '\n'));
+  }
+  return value;
+}
+
+int scan_range_result(scan_state& s, int result) {
+  // The scan reads in file order and stops at its first error, so a noted number always stands
+  // before whatever else went wrong.
+  if (s.out_of_range.empty()) return result;
+  s.message = format_message(scan_messages::number_out_of_range.text,
+                             {s.out_of_range, s.out_of_range_line});
+  return 1;
+}
 
 int scan_int(const char* text) {
   const long long value = std::strtoll(text, nullptr, 10);

@@ -53,6 +53,10 @@ struct scan_state {
   int comment_return = 0;          // the state a /* ... */ comment returns to
   std::string message;             // what went wrong, once the scanner returned 1
   std::size_t tail_at = std::string::npos;  // where the rest of the line goes into message
+  // The first number token beyond the range of a double, and its line; run_scanner turns it into
+  // the scan's error once the scanner has stopped (a rule cannot leave the scanner from a helper).
+  std::string out_of_range;
+  int out_of_range_line = 0;
 
   // Back to the state of a fresh read, with this message as the default.
   void reset(std::istream& input, const mero::message& default_message);
@@ -89,9 +93,15 @@ std::size_t scan_read(std::istream& in, char* buffer, std::size_t max);
 void scan_echo(const char* text, std::size_t length);
 
 // A number token, with the C rules of atof; an integer token, with those of atoi (clamped to
-// the int range instead of overflowing).
-double scan_real(const char* text);
+// the int range instead of overflowing). A number beyond the range of a double (whose value
+// would be infinite) is noted in s and fails the scan; one too close to 0 becomes 0 or a
+// denormal, as atof makes it.
+double scan_real(scan_state& s, const char* text);
 int scan_int(const char* text);
+
+// After the scanner stopped: the error for a number noted by scan_real, if there was one (it
+// stands before any other error, the scan having stopped at its first). Returns the final result.
+int scan_range_result(scan_state& s, int result);
 
 // The three entries that flex generates for a scanner prefix, typed on its state (flex's yyscan_t
 // is a void*).
@@ -117,7 +127,7 @@ int run_scanner(const scanner_entries<State>& entries, State& state) {
   do {
     result = entries.lex(g.scanner);
   } while (result > 1);
-  return result;
+  return scan_range_result(state, result);
 }
 
 // Opens a data file for a scanner; a directory, or a file that cannot be opened, ends the process

@@ -19,6 +19,11 @@ inline constexpr message lp_stop{
 // lp norms are norms for p >= 1 only.
 inline constexpr message lp_exponent{1310, "facilities::lp_sum(): p must be at least 1."};
 
+// The largest weighted distance of a negative weight falls without bound away from its location,
+// so the weighted center has no optimum (l1_max runs linf_max in the rotated plane).
+inline constexpr message negative_center_weight{
+    1352, "facilities::linf_max(): A negative weight leaves the center problem without optimum."};
+
 // A message, not an error: the run ends with status 0.
 inline constexpr message linf_max_whole_plane{
     0, "facilities::linf_max: No weight is unequal to zero and the whole plane is optimal"};

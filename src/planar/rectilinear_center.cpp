@@ -24,8 +24,11 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 // The meeting value of two locations in one coordinate: their distance times u v / (u + v), the
 // weighted distance at which their cones meet. The operands commute exactly, so the order of the
 // pair does not change the double.
+// Weights near the double range overflow u v, and the factor is then taken in its harmonic form.
 double meeting_value(double a, double u, double b, double v) {
-  return std::fabs(a - b) * (u * v / (u + v));
+  double factor = u * v / (u + v);
+  if (std::isinf(u * v)) factor = 1.0 / (1.0 / u + 1.0 / v);
+  return std::fabs(a - b) * factor;
 }
 
 // The largest meeting value over all pairs, by scanning every pair. Pairs whose factor is no
@@ -126,11 +129,14 @@ void optimal_box(const std::vector<weighted_point>& points, double z, weighted_p
 // (O(n log n) in practice, O(n^2) on symmetric or badly scaled data), the optima the box that every
 // location reaches within it, which in the maximum norm is a point or a segment. optima receives
 // one point or the segment's two ends, weight entry 0 = 1.0. All locations at one place: the first
-// with non-zero weight; no non-zero weight at all ends the run with the whole-plane message.
+// with non-zero weight; no non-zero weight at all ends the run with the whole-plane message; a
+// negative weight is an error (no optimum).
 double facilities::linf_max(bool clear) {
   if (clear) optima_.clear();
   if (empty()) empty_list_error(model_messages::empty_list);
   const std::vector<weighted_point> points = weighted_points(*this, 0);
+  for (const weighted_point& p : points)
+    if (p.w < 0.0) report_error(single_facility_messages::negative_center_weight);
   const double z = largest_pair_value(points);
   if (z == 0.0) {
     for (const location& l : *this)

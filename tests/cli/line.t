@@ -72,7 +72,7 @@ no line. A coordinate beyond the range of doubles, and an lp run without a norm,
   1L|P|.|l2|max: M4 1e+50
   $ printf 'begin {location}\n1e999 0 1\n1 1 1\n2 5 1\nend\n' > huge.loc
   $ $MERO -a L_l2_sum_M2 -l huge.loc --output=nowindowed
-  MERO error: Line location: every coordinate and weight must be a finite number. ErrorCode: 1362
+  MERO error: Number 1e999 at line 2 is beyond the range of a double. ErrorCode: 1504
   [1]
   $ printf '0 0.0001 0.0001 50' > lpinfo
   $ $MERO -a L_lp_sum_M3 -p 0 -l $T --output=nowindowed

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "test_support.h"
+
 namespace mero {
 namespace {
 
@@ -22,6 +24,19 @@ TEST(two_variable_model, optimum_at_a_vertex_or_a_bound) {
         solve_two_variable_model(2, rhs, a1, a2, in.lower, upper, in.objective, in.maximise);
     for (int k = 0; k < 3; ++k) EXPECT_NEAR(r[k], in.expected[k], 1e-9) << k;
   }
+}
+
+// A model without an optimum is an error, not a report of lp_solve's last numbers.
+TEST(two_variable_model, no_optimum_is_reported) {
+  const std::vector<double> rhs{0, 4, 6}, a1{0, 1, 1}, a2{0, 1, 3}, upper{0, 3, 10};
+  // x >= 5 against x <= 3.
+  EXPECT_REPORT(solve_two_variable_model(2, rhs, a1, a2, {0, 5, 0}, {0, 1e30, 10}, {0, 1, 1},
+                                         false),
+                1371, "The linear program has no feasible solution.");
+  // Maximise x + y with x + y <= 4 gone (a row of zeros) and no upper bounds.
+  EXPECT_REPORT(solve_two_variable_model(2, rhs, {0, 0, 0}, {0, 0, 0}, {0, 0, 0}, {0, 1e30, 1e30},
+                                         {0, 1, 1}, true),
+                1370, "The linear program is unbounded: the data give no optimal location.");
 }
 
 }  // namespace

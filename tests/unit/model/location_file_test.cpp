@@ -102,6 +102,18 @@ TEST(location_file, every_syntax_error_has_its_message) {
   EXPECT_REPORT(read("begin {location} [2,0]\n1 2 3\nend\n"), 1209, "Index out of range.");
 }
 
+// A number whose value would be infinite ends the read at its line, before any later error; one
+// that only underflows reads as what atof makes of it.
+TEST(location_file, numbers_beyond_the_double_range) {
+  EXPECT_REPORT(read("begin {location}\n1 2 3\n4 1e309 6\n7 8 x\n"), 1504,
+                "Number 1e309 at line 3 is beyond the range of a double.");
+  EXPECT_REPORT(read("begin {location}\n1 2 -2e308\nend\n"), 1504,
+                "Number -2e308 at line 2 is beyond the range of a double.");
+  facilities f = read("begin {location}\n1e-400 1.7e308 1\nend\n");
+  EXPECT_EQ(f.front().coordinate(0), 0.0);
+  EXPECT_EQ(f.front().coordinate(1), 1.7e308);
+}
+
 TEST(location_file, gauge_numbers) {
   temp_file file("begin {location}\n1 2 3 { 2 } [a]\n4 5 6 {-1}\n7 8 9 [c]\nend\n");
   facilities f;

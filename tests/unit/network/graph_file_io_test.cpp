@@ -1,5 +1,6 @@
 #include "network/graph_file_io.h"
 
+#include <fstream>
 #include <sstream>
 
 #include "network_test_graphs.h"
@@ -32,6 +33,22 @@ TEST(graph_file_io, written_graph_reads_back_and_unopenable_files) {
   EXPECT_REPORT(write_graph(std::string("/nonexistent/dir/a"), g, locations), 2104,
                 "Can't open file !");
   EXPECT_REPORT(read_graph("/nonexistent/dir/a", g, locations), 2111, "Can't open file!");
+}
+
+// NC lines hold no coordinates, so the header's dimension sizes nothing: even the largest one
+// reads as the two nodes and one edge that the file holds.
+TEST(graph_file_io, nc_lines_take_no_size_from_the_header) {
+  std::string path = ::testing::TempDir() + "network_nc_dimension.graph";
+  std::ofstream(path) << "begin {merograph}\nbegin {location} [2147483647,1]\nNC 2 [hub]\n"
+                         "NC 1 [north]\nend {location}\nbegin {adjlist}\n1 2 7\nend {adjlist}\n";
+  location_graph g;
+  facilities locations;
+  read_graph(path, g, locations);
+  EXPECT_TRUE(locations.empty());
+  EXPECT_EQ(head_weights(g), (std::vector<double>{2, 1}));
+  std::ostringstream adjacency;
+  write_adjacency(adjacency, g);
+  EXPECT_EQ(adjacency.str(), "begin {adjlist}\n1 2 7\nend {adjlist}\n");
 }
 
 }  // namespace mero
