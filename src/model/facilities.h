@@ -137,6 +137,10 @@ class facilities : public std::list<location> {
   double L_lp_max_M4(int p);
   double L_l2_v1_max();
   double L_l2_max_M2logM();
+  // --- Block-norm line location (src/line/line_block.cpp): the gauge gauges[gauge_numbers[0]]
+  // measures every distance. ---
+  double L_block_sum_M3(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
+  double L_block_max_M4(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
   // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
   // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
   double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,
