@@ -121,6 +121,11 @@ class facilities : public std::list<location> {
   double in_l2_max(const restriction_list& restrictions);
   double in_convex_linf_max(const restriction_list& restrictions);
   double in_convex_l1_max(const restriction_list& restrictions);
+  // The gauge center with forbidden regions (src/restriction/restricted_gauge_center.cpp), with
+  // the checks and optima of gauge_center.
+  double restr_gauge_center(const std::vector<polygauge>& gauges,
+                            const std::vector<int>& gauge_numbers,
+                            const restriction_list& restrictions);
   // --- Line location (src/line/line_sum.cpp, line_sweep.cpp, line_max.cpp) ---
   // optima receives the line as two points on it; weight column 0 is read (L_l2_sum_M2 and
   // L_l2_v1_max take all weights as equal). The sums keep copies of two locations with weight
