@@ -110,12 +110,10 @@ double facilities::L_block_max_M4(const std::vector<polygauge>& gauges,
                                   const std::vector<int>& gauge_numbers) {
   const std::vector<point> dirs = block_directions(gauges, gauge_numbers);
   const std::vector<weighted_point> points = line_points_of(*this);
-  const line_choice best = best_triple_line(points, [&](const point_pair& l) {
-    double largest = 0.0;
-    for (const weighted_point& b : points)
-      largest = std::max(largest, block_line_distance(l.q, l.p, b, dirs) * b.w);
-    return largest;
-  });
+  const line_choice best = best_triple_line_by(
+      points, [&dirs](const weighted_point& a, const weighted_point& b, const weighted_point& c) {
+        return block_line_distance(a, b, c, dirs);
+      });
   optima_ = max_line_points(best);
   return best.value;
 }

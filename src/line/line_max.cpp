@@ -79,12 +79,10 @@ double facilities::L_linf_max_M4() {
 double facilities::L_lp_max_M4(int p) {
   if (p < 1 && p != -1) report_error(line_messages::lp_max_exponent);
   const std::vector<weighted_point> points = line_points_of(*this);
-  const line_choice best = best_triple_line(points, [&](const point_pair& l) {
-    double largest = 0.0;
-    for (const weighted_point& b : points)
-      largest = std::max(largest, lp_line_distance(l.q, l.p, b, p) * b.w);
-    return largest;
-  });
+  const line_choice best = best_triple_line_by(
+      points, [p](const weighted_point& a, const weighted_point& b, const weighted_point& c) {
+        return lp_line_distance(a, b, c, p);
+      });
   optima_ = max_line_points(best);
   return best.value;
 }

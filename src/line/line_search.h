@@ -2,6 +2,7 @@
 // The candidate walks that the line solvers share: the pair loop of the sums with its early stop,
 // the Euclidean value of a pair's line, and the copies of a pair that become the result.
 
+#include <algorithm>
 #include <list>
 #include <vector>
 
@@ -83,6 +84,18 @@ line_choice best_triple_line(const std::vector<weighted_point>& points, Largest 
         if (triple.value < best.value) best = triple;
       }
   return best;
+}
+
+// The triple loop with each candidate valued by its largest weighted distance(q, p, b) over all
+// points, q and p the two points of the candidate line.
+template <typename Distance>
+line_choice best_triple_line_by(const std::vector<weighted_point>& points, Distance distance) {
+  return best_triple_line(points, [&](const point_pair& l) {
+    double largest = 0.0;
+    for (const weighted_point& b : points)
+      largest = std::max(largest, distance(l.q, l.p, b) * b.w);
+    return largest;
+  });
 }
 
 }  // namespace mero
