@@ -37,6 +37,16 @@ double solve_gauge_problem(run_context& ctx, int number) {
   return value;
 }
 
+// Numbers 306 and 356: lines under the block norm of the gauge that the first gauge number names;
+// the line stands in situations like the optima of the other gauge problems.
+double solve_block_line(run_context& ctx, int number) {
+  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  const double value = number == 306 ? ctx.problem.L_block_sum_M3(gauges, ctx.gauge_numbers)
+                                     : ctx.problem.L_block_max_M4(gauges, ctx.gauge_numbers);
+  ctx.situations = ctx.problem.optima();
+  return value;
+}
+
 }  // namespace
 
 std::vector<family_case> gauge_cases() {
@@ -44,7 +54,9 @@ std::vector<family_case> gauge_cases() {
           {12, solve_two_sum},
           {200, solve_gauge_problem},
           {201, solve_gauge_problem},
-          {210, solve_gauge_problem}};
+          {210, solve_gauge_problem},
+          {306, solve_block_line},
+          {356, solve_block_line}};
 }
 
 }  // namespace mero

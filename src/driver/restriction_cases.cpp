@@ -4,6 +4,8 @@
 #include "driver/family.h"
 #include "driver/lpinfo.h"
 #include "driver/run_context.h"
+#include "gauge/gauge_file.h"
+#include "gauge/polygauge.h"
 #include "restriction/restriction_file.h"
 
 namespace mero {
@@ -56,13 +58,24 @@ double solve_restricted_lp_sum(run_context& ctx, int) {
                                                 info.max_iterations));
 }
 
+// Number 211 (chain RG): the gauge center with the regions of the -r file; the gauge file is read
+// first, and the optimum stands in situations like that of the unrestricted gauge center.
+double solve_restricted_gauge_center(run_context& ctx, int) {
+  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  load_restrictions(ctx);
+  const double value =
+      ctx.problem.restr_gauge_center(gauges, ctx.gauge_numbers, ctx.restrictions);
+  ctx.situations = ctx.problem.optima();
+  return value;
+}
+
 }  // namespace
 
 std::vector<family_case> restriction_cases() {
   return {{50, solve_restricted},        {51, solve_restricted}, {52, solve_restricted},
           {53, solve_restricted_lp_sum}, {55, solve_restricted}, {56, solve_restricted},
           {57, solve_restricted},        {60, solve_restricted}, {61, solve_restricted},
-          {64, solve_restricted}};
+          {64, solve_restricted},        {211, solve_restricted_gauge_center}};
 }
 
 }  // namespace mero

@@ -3,6 +3,9 @@
 // line of equal weighted distance from three points. Points are the compact weighted copies of
 // the locations (coordinates 0 and 1, one weight column).
 
+#include <vector>
+
+#include "kernel/point.h"
 #include "planar/weighted_points.h"
 
 namespace mero {
@@ -42,5 +45,12 @@ struct point_pair {
   weighted_point q;
 };
 point_pair triple_line(const weighted_point& a, const weighted_point& b, const weighted_point& c);
+
+// The gauge distance from c to the line through a and b, for a gauge given by its extreme points
+// dirs (taken from the origin): the least step t >= 0 with c + t e on the line, over the extreme
+// points e not parallel to the line; a step below line_zero counts as 0.0. 1e50 when no ray
+// meets the line (no gauge around the origin, or a and b equal).
+double block_line_distance(const weighted_point& a, const weighted_point& b,
+                           const weighted_point& c, const std::vector<point>& dirs);
 
 }  // namespace mero

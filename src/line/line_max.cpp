@@ -15,14 +15,6 @@
 
 namespace mero {
 
-namespace {
-
-// A candidate line of a max problem: two points on it and its value.
-struct line_choice {
-  double value = 1e50;
-  point_pair line{};
-};
-
 std::list<location> max_line_points(const line_choice& best) {
   std::list<location> result;
   if (best.value >= 1e50) return result;
@@ -31,28 +23,7 @@ std::list<location> max_line_points(const line_choice& best) {
   return result;
 }
 
-// All triples i < j < k, in the roles (i, j | k), (i, k | j), (j, k | i): triple_line, then the
-// largest weighted distance as `largest` measures it. Within a triple and over the triples only
-// a strictly smaller value replaces the line. A triple whose two points coincide gives no line.
-template <typename Largest>
-line_choice best_triple_line(const std::vector<weighted_point>& points, Largest largest) {
-  line_choice best;
-  const int n = static_cast<int>(points.size());
-  for (int i = 0; i < n; ++i)
-    for (int j = i + 1; j < n; ++j)
-      for (int k = j + 1; k < n; ++k) {
-        const int roles[3][3] = {{i, j, k}, {i, k, j}, {j, k, i}};
-        line_choice triple;
-        for (const auto& r : roles) {
-          const point_pair line = triple_line(points[r[0]], points[r[1]], points[r[2]]);
-          if (same_place(line.p, line.q)) continue;
-          const double value = largest(line);
-          if (value < triple.value) triple = {value, line};
-        }
-        if (triple.value < best.value) best = triple;
-      }
-  return best;
-}
+namespace {
 
 // The largest weighted Euclidean distance from the line through q and p, over points[first..].
 double l2_largest(const std::vector<weighted_point>& points, const point_pair& line,
@@ -108,12 +79,10 @@ double facilities::L_linf_max_M4() {
 double facilities::L_lp_max_M4(int p) {
   if (p < 1 && p != -1) report_error(line_messages::lp_max_exponent);
   const std::vector<weighted_point> points = line_points_of(*this);
-  const line_choice best = best_triple_line(points, [&](const point_pair& l) {
-    double largest = 0.0;
-    for (const weighted_point& b : points)
-      largest = std::max(largest, lp_line_distance(l.q, l.p, b, p) * b.w);
-    return largest;
-  });
+  const line_choice best = best_triple_line_by(
+      points, [p](const weighted_point& a, const weighted_point& b, const weighted_point& c) {
+        return lp_line_distance(a, b, c, p);
+      });
   optima_ = max_line_points(best);
   return best.value;
 }

@@ -18,4 +18,7 @@ inline constexpr message lp_max_exponent{
 inline constexpr message not_finite{
     1362, "Line location: every coordinate and weight must be a finite number."};
 
+// The block-norm lines measure with one gauge, the one that the first gauge number names.
+inline constexpr message block_gauge_number{1363, "Line location: False gauge-number."};
+
 }  // namespace mero::line_messages

@@ -2,6 +2,7 @@
 // The candidate walks that the line solvers share: the pair loop of the sums with its early stop,
 // the Euclidean value of a pair's line, and the copies of a pair that become the result.
 
+#include <algorithm>
 #include <list>
 #include <vector>
 
@@ -52,5 +53,49 @@ double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j, doub
 // Copies of the locations at positions i and j of the list with weight entry 0 = 1.0; empty when
 // no pair was chosen.
 std::list<location> pair_line_points(const std::list<location>& list, const pair_choice& choice);
+
+// A candidate line of a max problem: two points on it and its value.
+struct line_choice {
+  double value = 1e50;
+  point_pair line{};
+};
+
+// The two points of the chosen line with weight entry 0 = 0.0; empty when no line was found.
+std::list<location> max_line_points(const line_choice& best);
+
+// All triples i < j < k, in the roles (i, j | k), (i, k | j), (j, k | i): triple_line, then the
+// largest weighted distance as `largest` measures it. Within a triple and over the triples only
+// a strictly smaller value replaces the line. A triple whose two points coincide gives no line.
+template <typename Largest>
+line_choice best_triple_line(const std::vector<weighted_point>& points, Largest largest) {
+  line_choice best;
+  const int n = static_cast<int>(points.size());
+  for (int i = 0; i < n; ++i)
+    for (int j = i + 1; j < n; ++j)
+      for (int k = j + 1; k < n; ++k) {
+        const int roles[3][3] = {{i, j, k}, {i, k, j}, {j, k, i}};
+        line_choice triple;
+        for (const auto& r : roles) {
+          const point_pair line = triple_line(points[r[0]], points[r[1]], points[r[2]]);
+          if (same_place(line.p, line.q)) continue;
+          const double value = largest(line);
+          if (value < triple.value) triple = {value, line};
+        }
+        if (triple.value < best.value) best = triple;
+      }
+  return best;
+}
+
+// The triple loop with each candidate valued by its largest weighted distance(q, p, b) over all
+// points, q and p the two points of the candidate line.
+template <typename Distance>
+line_choice best_triple_line_by(const std::vector<weighted_point>& points, Distance distance) {
+  return best_triple_line(points, [&](const point_pair& l) {
+    double largest = 0.0;
+    for (const weighted_point& b : points)
+      largest = std::max(largest, distance(l.q, l.p, b) * b.w);
+    return largest;
+  });
+}
 
 }  // namespace mero

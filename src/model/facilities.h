@@ -121,6 +121,11 @@ class facilities : public std::list<location> {
   double in_l2_max(const restriction_list& restrictions);
   double in_convex_linf_max(const restriction_list& restrictions);
   double in_convex_l1_max(const restriction_list& restrictions);
+  // The gauge center with forbidden regions (src/restriction/restricted_gauge_center.cpp), with
+  // the checks and optima of gauge_center.
+  double restr_gauge_center(const std::vector<polygauge>& gauges,
+                            const std::vector<int>& gauge_numbers,
+                            const restriction_list& restrictions);
   // --- Line location (src/line/line_sum.cpp, line_sweep.cpp, line_max.cpp) ---
   // optima receives the line as two points on it; weight column 0 is read (L_l2_sum_M2 and
   // L_l2_v1_max take all weights as equal). The sums keep copies of two locations with weight
@@ -137,6 +142,10 @@ class facilities : public std::list<location> {
   double L_lp_max_M4(int p);
   double L_l2_v1_max();
   double L_l2_max_M2logM();
+  // --- Block-norm line location (src/line/line_block.cpp): the gauge gauges[gauge_numbers[0]]
+  // measures every distance. ---
+  double L_block_sum_M3(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
+  double L_block_max_M4(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
   // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
   // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
   double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,

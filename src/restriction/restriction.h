@@ -20,6 +20,8 @@
 
 namespace mero {
 
+struct gauge_site;
+
 class restriction {
  public:
   virtual ~restriction();
@@ -48,6 +50,11 @@ class restriction {
   // value is bound; it is left in p and its value returned. 1411 unless a class provides it.
   virtual double proj_l2max(location& p, const std::list<location>& locations, double bound) const;
 
+  // The best boundary point for the weighted gauge center of the sites, whose unrestricted value
+  // is bound; it is left in p and its value returned. Polygons, rectangles and circles give it;
+  // 1411 for the barriers.
+  virtual double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
+                                   double bound) const;
   // The weighted maximum-norm center on the boundary of a convex figure, given the unrestricted
   // optima U (one point or the ends of a segment) of value z. U receives the new optima; the
   // value is returned.
@@ -111,6 +118,8 @@ class restr_polygon : public forbidden_region {
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
   double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
+  double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
+                           double bound) const override;
 
   std::vector<point> vertices() const;
   bool is_convex() const;
@@ -136,6 +145,8 @@ class restr_rectangle : public forbidden_region {
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
   double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
+  double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
+                           double bound) const override;
 
   std::vector<segment> sides() const;  // corner 0 to 1, 1 to 2, 2 to 3, 3 to 0
 
@@ -158,7 +169,8 @@ class restr_circle : public forbidden_region {
   std::list<location> proj_l2sqr(const location& p) const override;
 
   std::vector<point> hit_segment(const point& a, const point& b) const override;
-
+  double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
+                           double bound) const override;
   point center;
   double radius;
 };

@@ -155,3 +155,38 @@ list stops in the kernel's list check:
   ORBA ERROR HANDLER
   \tdlist::head(): empty list (esc)
   
+
+The gauge center with forbidden regions (-r with -d). Two sites (0,0) and (10,0) with the
+rectilinear gauge have their center at (5,0) with 5. The square [4,6] x [-1,1] holds it; on its
+sides max(|x| + |y|, |10 - x| + |y|) is at least 6, reached at (4,0), (6,0) and (5,+-1). The
+circle of radius 1 about (5,0) gives 5 + |cos t| + |sin t|, least 6 at its four axis points. A
+region that does not hold the center leaves it, and a barrier has no boundary search.
+
+  $ printf 'begin {location} [2,1]\n0 0 1 {0}\n10 0 1 {0}\nend\n' > two_sites.loc
+  $ restr() { printf "begin {restriction}\n$1\nend {restriction}\n" > r.restr; }
+  $ rg() { $MERO -a restr_gauge_center -l two_sites.loc -d $EXAMPLES/two_gauges.gauge -r r.restr --output=nowindowed; }
+  $ restr 'begin {polyhedron} [0]\n4 -1\n4 1\n6 1\n6 -1\nend {polyhedron}'
+  $ rg
+  begin {result}
+  begin {classification}
+  1|P|R|gauges|max
+  end {classification}
+  begin {situations}
+  6
+  end {situations}
+  begin {polygonlist}
+  4 0 
+  end {polygonlist}
+  end {result}
+  $ restr 'begin {circle}\n5 0 1\nend {circle}'
+  $ rg | sed -n '6p;9p'
+  6
+  4 0 
+  $ restr 'begin {circle}\n50 50 1\nend {circle}'
+  $ rg | sed -n '6p;9p'
+  5
+  5 0 
+  $ restr 'begin {circle} [inf]\n5 0 1\nend {circle}'
+  $ rg
+  MERO error: Not implemented for this kind of restriction. ErrorCode: 1411
+  [1]

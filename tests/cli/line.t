@@ -87,3 +87,24 @@ the same value as the pair loop; the equal-weight methods measure other problems
   1L|P|.|l2|sum: M3 28.1745 13 8  1 2 
   $ solve -a L_l2_sum_M2logM -l $W
   1L|P|.|l2|sum: M2logM 28.1745 5 4  9 6 
+
+Block norms, with the gauge of the first gauge number: the gauge sites of the example read gauge
+0, the rectilinear one. By hand over the six pairs (rectilinear distance |n.x - c| / max |n_i|),
+the line through North (1,3) and South (3,-2) leaves West 2.6 and East 1.6 away, weighted 5.8;
+the next best pair, West and East, gives 7. A grid of 10^5 directions with the exact offset finds
+no max line below 2.57143 (18/7), and the max problem keeps the sum's label.
+
+  $ G="-l $EXAMPLES/gauge_sites.loc -d $EXAMPLES/two_gauges.gauge"
+  $ $MERO -a L_block_sum_M3 $G --output=nowindowed | sed -n '3p;5,6p;10,11p'
+  1L|P|.|block|sum
+  begin {situations}
+  5.8
+  1 3 
+  3 -2 
+  $ $MERO -a L_block_max_M4 $G --output=nowindowed | sed -n '3p;6p'
+  1L|P|.|block|sum
+  2.57143
+  $ sed 's/{0} \[West\]/{-1} [West]/' $EXAMPLES/gauge_sites.loc > negative.loc
+  $ $MERO -a L_block_sum_M3 -l negative.loc -d $EXAMPLES/two_gauges.gauge --output=nowindowed
+  MERO error: Line location: False gauge-number. ErrorCode: 1363
+  [1]

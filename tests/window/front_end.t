@@ -55,9 +55,14 @@ the random location file and the editor.
   > set ::front::field(-l) [pwd]/bad.loc
   > run_and_wait { ::front::run; after 1500 ::front::stop }
   > show
+  > proc tk_messageBox {args} { puts "[dict get $args -icon]: [lindex [split [dict get $args -message] \n] 0]" }
+  > foreach f {overlap inside broken} { puts "$f:"; ::front::check_restrictions [pwd]/$f.restr }
   > exit 0
   > TCL
   $ printf 'begin {location} [2,1]\n1 2 oops\nend {location}\n' > bad.loc
+  $ printf 'begin {restriction}\nbegin {polyhedron} [0]\n0 0\n0 4\n4 4\n4 0\nend {polyhedron}\nbegin {polyhedron} [0]\n2 2\n2 6\n6 6\n6 2\nend {polyhedron}\nend {restriction}\n' > overlap.restr
+  $ printf 'begin {restriction}\nbegin {polyhedron} [0]\n0 0\n0 9\n9 9\n9 0\nend {polyhedron}\nbegin {circle}\n4 4 2\nend {circle}\nend {restriction}\n' > inside.restr
+  $ printf 'begin {restriction}\nbegin {polyhedron} [5]\n0 0\n1 0\n0 1\nend {polyhedron}\nend {restriction}\n' > broken.restr
 
 The tree and the form: each algorithm says what it needs, and the p field is open only where p
 is needed (disabled 0).
@@ -133,7 +138,18 @@ anywhere from 1 to 5 (weight 2 at each end): the segment from (3, 1) to (3, 5), 
 
 A windowed run of the bad file waits on its error panel until the Stop button's command ends it.
 
-  $ sed -n '46,$p' front.txt
+  $ sed -n '46,48p' front.txt
   | $ mero -a l1_sum -l */bad.loc --output=windowed (glob)
   | 
   | mero was stopped (killed by SIGTERM).
+
+Restriction files chosen in the form are checked: two crossing squares get the overlap warning,
+a circle inside a square without touching gets none, and a file the reader refuses gets the
+reader's complaint from a child run instead (the front end itself stays up).
+
+  $ sed -n '49,$p' front.txt
+  overlap:
+  warning: The figures of this restriction file overlap or touch.
+  inside:
+  broken:
+  error: mero cannot read this restriction file:

@@ -39,6 +39,22 @@ int random_command(ClientData, Tcl_Interp* interp, int argc, const char* argv[])
   return TCL_OK;
 }
 
+// RestrInt file: inters is "0" first, and "1" when the figures of the file overlap. More than
+// one argument is "wrong # args"; none, which would leave no file to read, is a Tcl error too.
+int restrint_command(ClientData, Tcl_Interp* interp, int argc, const char* argv[]) {
+  Tcl_SetVar(interp, "inters", "0", 0);
+  if (argc > 2) {
+    Tcl_SetResult(interp, const_cast<char*>(fm::wrong_args), TCL_STATIC);
+    return TCL_ERROR;
+  }
+  if (argc < 2) {
+    Tcl_SetResult(interp, const_cast<char*>(fm::restrint_no_file), TCL_STATIC);
+    return TCL_ERROR;
+  }
+  if (restrictions_intersect(argv[1]) == 1) Tcl_SetVar(interp, "inters", "1", 0);
+  return TCL_OK;
+}
+
 // The script stands at ../tk/merofront seen from the program's folder (the program's path up to
 // its last slash), or from the current folder as the fallback.
 std::string find_script(const char* program) {
@@ -54,6 +70,7 @@ std::string find_script(const char* program) {
 }  // namespace
 
 void create_front_end_commands(Tcl_Interp* interp) {
+  Tcl_CreateCommand(interp, "RestrInt", restrint_command, nullptr, nullptr);
   Tcl_CreateCommand(interp, "random", random_command, nullptr, nullptr);
 }
 

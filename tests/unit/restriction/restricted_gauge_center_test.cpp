@@ -1,0 +1,206 @@
+// The gauge center with a forbidden region against a dense sampling of the region's boundary,
+// measured with the gauges' facet formula (not polygauge::dist), on random instances whose region
+// holds the unrestricted center.
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <random>
+
+#include "gauge/gauge_test_support.h"
+#include "kernel/convex_hull.h"
+#include "planar/planar_fixtures.h"
+#include "restriction/restriction.h"
+
+namespace mero {
+namespace {
+
+using testing::at;
+using testing::gauge_by_facets;
+
+const std::vector<std::vector<point>> balls{
+    {{1, 0}, {0, 1}, {-1, 0}, {0, -1}},
+    {{2, 0}, {1, 1.5}, {-1, 1.5}, {-2, 0}, {-1, -1.5}, {1, -1.5}},
+    {{2, 0}, {-1, 1}, {-1, -1}},
+};
+
+std::vector<polygauge> test_gauges() {
+  std::vector<polygauge> g;
+  for (const auto& ball : balls) g.emplace_back(ball);
+  return g;
+}
+
+// The largest weighted gauge distance from the locations to x.
+double largest(const facilities& f, const std::vector<int>& numbers, const point& x) {
+  double v = 0.0;
+  std::size_t i = 0;
+  for (const location& l : f) {
+    const auto& ball = balls[static_cast<std::size_t>(numbers[i++])];
+    v = std::max(v, l.weight(0) * gauge_by_facets(ball, x.xcoord() - l.coordinate(0),
+                                                  x.ycoord() - l.coordinate(1)));
+  }
+  return v;
+}
+
+// Samples of the boundary: n points on each edge of a ring, or on a circle.
+std::vector<point> ring_samples(const std::vector<point>& ring, int n) {
+  std::vector<point> out;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const point& a = ring[k];
+    const point& b = ring[(k + 1) % ring.size()];
+    for (int s = 0; s <= n; ++s) {
+      const double t = static_cast<double>(s) / n;
+      out.emplace_back(a.xcoord() + t * (b.xcoord() - a.xcoord()),
+                       a.ycoord() + t * (b.ycoord() - a.ycoord()));
+    }
+  }
+  return out;
+}
+std::vector<point> circle_samples(const point& c, double r, int n) {
+  std::vector<point> out;
+  for (int s = 0; s < n; ++s) {
+    const double t = 2.0 * std::numbers::pi * s / n;
+    out.emplace_back(c.xcoord() + r * std::cos(t), c.ycoord() + r * std::sin(t));
+  }
+  return out;
+}
+
+// Distance of q from the ring's edges (0 when q is on the boundary).
+double off_ring(const std::vector<point>& ring, const point& q) {
+  double best = 1e50;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const point& a = ring[k];
+    const point& b = ring[(k + 1) % ring.size()];
+    const double dx = b.xcoord() - a.xcoord(), dy = b.ycoord() - a.ycoord();
+    double t = ((q.xcoord() - a.xcoord()) * dx + (q.ycoord() - a.ycoord()) * dy) /
+               (dx * dx + dy * dy);
+    t = std::clamp(t, 0.0, 1.0);
+    best = std::min(best, std::hypot(q.xcoord() - a.xcoord() - t * dx,
+                                     q.ycoord() - a.ycoord() - t * dy));
+  }
+  return best;
+}
+
+struct instance {
+  facilities f;
+  std::vector<int> numbers;
+  point centre;
+  double z;
+};
+
+instance random_instance(std::mt19937& gen) {
+  std::uniform_real_distribution<double> coordinate(0.0, 100.0), weight(1.0, 5.0);
+  instance in;
+  const int n = 4 + static_cast<int>(gen() % 4);
+  for (int i = 0; i < n; ++i) {
+    const double x = coordinate(gen), y = coordinate(gen);
+    in.f.push_back(at(x, y, weight(gen)));
+    in.numbers.push_back(static_cast<int>(gen() % balls.size()));
+  }
+  in.z = in.f.gauge_center(test_gauges(), in.numbers, true);
+  in.centre = point(in.f.optima().front());
+  return in;
+}
+
+// The restricted value is the least over the sampled boundary (up to the sampling step) and never
+// above it; the point is on the boundary and its value is the one returned.
+void expect_boundary_optimum(const instance& in, double value, const std::vector<point>& samples,
+                             double off_boundary, const facilities& solved, int seed) {
+  double brute = 1e50;
+  for (const point& q : samples) brute = std::min(brute, largest(in.f, in.numbers, q));
+  EXPECT_LE(value, brute + 1e-9) << seed;
+  EXPECT_GE(value, brute - 2e-3 * brute) << seed;
+  EXPECT_GE(value, in.z - 1e-9) << seed;
+  ASSERT_EQ(solved.optima().size(), 1u) << seed;
+  const point p(solved.optima().front());
+  EXPECT_NEAR(largest(in.f, in.numbers, p), value, 1e-9 * value) << seed;
+  EXPECT_LT(off_boundary, 1e-7) << seed;
+}
+
+TEST(restricted_gauge_center, polygon_and_rectangle_boundaries_match_the_sampling) {
+  std::mt19937 gen(17);
+  std::uniform_real_distribution<double> angle(0.0, 2.0 * std::numbers::pi), reach(3.0, 20.0);
+  int polygons = 0, rectangles = 0;
+  for (int seed = 0; seed < 6; ++seed) {
+    instance in = random_instance(gen);
+    std::vector<point> ring;
+    for (int k = 0; k < 6; ++k) {
+      const double t = angle(gen), r = reach(gen);
+      ring.emplace_back(in.centre.xcoord() + r * std::cos(t), in.centre.ycoord() + r * std::sin(t));
+    }
+    ring = convex_hull(ring);
+    if (!polygon(ring).inside(in.centre)) continue;
+    restriction_list list;
+    list.push_back(std::make_unique<restr_polygon>(ring));
+    facilities solved = in.f;
+    const double value = solved.restr_gauge_center(test_gauges(), in.numbers, list);
+    ++polygons;
+    expect_boundary_optimum(in, value, ring_samples(ring, 20000),
+                            off_ring(ring, point(solved.optima().front())), solved, seed);
+
+    // A turned rectangle with a corner below-left of the centre.
+    const point corner(in.centre.xcoord() - reach(gen) / 2, in.centre.ycoord() - reach(gen) / 2);
+    restriction_list boxes;
+    auto box = std::make_unique<restr_rectangle>(corner, 25.0, 18.0, 0.3);
+    const std::vector<point> corners = box->corners;
+    if (!box->inside(in.centre)) continue;
+    boxes.push_back(std::move(box));
+    facilities boxed = in.f;
+    const double box_value = boxed.restr_gauge_center(test_gauges(), in.numbers, boxes);
+    ++rectangles;
+    expect_boundary_optimum(in, box_value, ring_samples(corners, 20000),
+                            off_ring(corners, point(boxed.optima().front())), boxed, seed);
+  }
+  EXPECT_GE(polygons, 4);
+  EXPECT_GE(rectangles, 3);
+}
+
+TEST(restricted_gauge_center, circle_boundary_matches_the_sampling) {
+  std::mt19937 gen(29);
+  std::uniform_real_distribution<double> radius(2.0, 25.0);
+  for (int seed = 0; seed < 6; ++seed) {
+    instance in = random_instance(gen);
+    const point c(in.centre.xcoord() + 1.0, in.centre.ycoord() - 0.5);
+    const double r = radius(gen) + 1.2;
+    restriction_list list;
+    list.push_back(std::make_unique<restr_circle>(c, r));
+    facilities solved = in.f;
+    const double value = solved.restr_gauge_center(test_gauges(), in.numbers, list);
+    const point p(solved.optima().front());
+    expect_boundary_optimum(in, value, circle_samples(c, r, 200000),
+                            std::fabs(std::hypot(p.xcoord() - c.xcoord(), p.ycoord() - c.ycoord()) - r),
+                            solved, seed);
+  }
+}
+
+// By hand, rectilinear: (0,0) and (10,0) have their center at (5,0) with 5. Around it the square
+// [4,6] x [-1,1]: on its sides max(|x| + |y|, |10 - x| + |y|) is at least 6, reached at (5,+-1)
+// and (4,0), (6,0). The circle of radius 1 about (5,0): 5 + |cos t| + |sin t|, least 6.
+TEST(restricted_gauge_center, hand_cases) {
+  const std::vector<polygauge> gauges = test_gauges();
+  facilities f = testing::problem({at(0, 0), at(10, 0)});
+  restriction_list none;
+  EXPECT_DOUBLE_EQ(f.gauge_center(gauges, {0, 0}, true), 5.0);
+  restriction_list square;
+  square.push_back(std::make_unique<restr_polygon>(
+      std::vector<point>{{4, -1}, {4, 1}, {6, 1}, {6, -1}}));
+  EXPECT_DOUBLE_EQ(f.restr_gauge_center(gauges, {0, 0}, square), 6.0);
+  restriction_list round;
+  round.push_back(std::make_unique<restr_circle>(point(5, 0), 1.0));
+  EXPECT_NEAR(f.restr_gauge_center(gauges, {0, 0}, round), 6.0, 1e-12);
+  // A region away from the center leaves the unrestricted result.
+  restriction_list away;
+  away.push_back(std::make_unique<restr_circle>(point(50, 50), 1.0));
+  EXPECT_DOUBLE_EQ(f.restr_gauge_center(gauges, {0, 0}, away), 5.0);
+  EXPECT_EQ(point(f.optima().front()), point(5, 0));
+  // Barriers have no boundary search; an empty list is the list error.
+  restriction_list barrier;
+  barrier.push_back(std::make_unique<circle_barrier>(point(5, 0), 1.0));
+  EXPECT_REPORT(f.restr_gauge_center(gauges, {0, 0}, barrier), 1411,
+                "Not implemented for this kind of restriction.");
+  EXPECT_KERNEL_ERROR(f.restr_gauge_center(gauges, {0, 0}, none), "dlist::head(): empty list");
+}
+
+}  // namespace
+}  // namespace mero
