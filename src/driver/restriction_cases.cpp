@@ -69,13 +69,36 @@ double solve_restricted_gauge_center(run_context& ctx, int) {
   return value;
 }
 
+// Numbers 307 to 310: the sum line kept off the first restriction, a forbidden polygon. 308
+// takes p from lpinfo (the value -p writes when it cannot be read) and puts it in the label.
+double solve_restricted_line(run_context& ctx, int number) {
+  load_restrictions(ctx);
+  facilities& problem = ctx.problem;
+  const restriction_list& list = ctx.restrictions;
+  switch (number) {
+    case 307:
+      return keep_optima(ctx, problem.L_RkonvPoly_l2_sum(list));
+    case 308: {
+      const lp_info info = read_lpinfo_or_written(ctx.request.p);
+      ctx.label_args.p = info.p;
+      return keep_optima(ctx, problem.L_RkonvPoly_lp_sum(list, info.p));
+    }
+    case 309:
+      return keep_optima(ctx, problem.L_RkonvPoly_l1_sum(list));
+    default:
+      return keep_optima(ctx, problem.L_RkonvPoly_linf_sum(list));
+  }
+}
+
 }  // namespace
 
 std::vector<family_case> restriction_cases() {
   return {{50, solve_restricted},        {51, solve_restricted}, {52, solve_restricted},
           {53, solve_restricted_lp_sum}, {55, solve_restricted}, {56, solve_restricted},
           {57, solve_restricted},        {60, solve_restricted}, {61, solve_restricted},
-          {64, solve_restricted},        {211, solve_restricted_gauge_center}};
+          {64, solve_restricted},        {211, solve_restricted_gauge_center},
+          {307, solve_restricted_line},  {308, solve_restricted_line},
+          {309, solve_restricted_line},  {310, solve_restricted_line}};
 }
 
 }  // namespace mero

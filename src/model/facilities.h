@@ -146,6 +146,13 @@ class facilities : public std::list<location> {
   // measures every distance. ---
   double L_block_sum_M3(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
   double L_block_max_M4(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
+  // --- Restricted line location (src/restriction/restricted_line.cpp). The line of least
+  // weighted sum of distances that does not cut the first restriction, a convex forbidden
+  // polygon; optima receives the line as two points on it with weight entry 0 = 1.0. ---
+  double L_RkonvPoly_l2_sum(const restriction_list& restrictions);
+  double L_RkonvPoly_lp_sum(const restriction_list& restrictions, int p);
+  double L_RkonvPoly_l1_sum(const restriction_list& restrictions);
+  double L_RkonvPoly_linf_sum(const restriction_list& restrictions);
   // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
   // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
   double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,

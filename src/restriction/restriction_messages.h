@@ -19,6 +19,10 @@ inline constexpr message not_implemented{1411, "Not implemented for this kind of
 inline constexpr message empty_inside_all{1412, "Restriction is empty in inside_all"};
 inline constexpr message barrier_not_simple{1413, "polygon_barrier: Polygon is not simple"};
 inline constexpr message not_a_hyperplane{1803, "halfspace::compute(): Not a hyperplane"};
+// The restricted line solvers keep the line off a forbidden polygon; any other first figure
+// cannot be taken as one.
+inline constexpr message line_needs_polygon{
+    1414, "L_RkonvPoly: the first restriction must be a forbidden polygon."};
 
 // A warning: the run goes on with the marked point.
 inline constexpr message whole_boundary_optimal{

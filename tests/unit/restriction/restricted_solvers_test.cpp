@@ -10,6 +10,7 @@
 #include "kernel/convex_hull.h"
 #include "planar/planar_fixtures.h"
 #include "restriction/restriction.h"
+#include "restriction/restriction_fixtures.h"
 
 namespace mero {
 namespace {
@@ -19,17 +20,7 @@ using testing::objective_of;
 
 // A random convex polygon of 5 to 8 corners around c, at distances 5 to 30.
 std::vector<point> convex_around(std::mt19937& gen, const point& c) {
-  std::uniform_real_distribution<double> angle(0.0, 6.283185307179586), radius(5.0, 30.0);
-  for (;;) {
-    std::vector<point> v;
-    const int n = 5 + static_cast<int>(gen() % 4);
-    for (int i = 0; i < n; ++i) {
-      const double t = angle(gen), r = radius(gen);
-      v.emplace_back(c.xcoord() + r * std::cos(t), c.ycoord() + r * std::sin(t));
-    }
-    v = convex_hull(v);
-    if (v.size() >= 3 && polygon(v).inside(c)) return v;
-  }
+  return testing::convex_around(gen, c, 5.0, 30.0, 5, 4);
 }
 
 // An axis-parallel rectangle around c, as its four corners.
