@@ -61,8 +61,10 @@ int halfspace::side(const point& p) const {
 
 bool barrier::inside(const location& l) const { return inside(point(l)); }
 
-double barrier::barrier_objective(const std::list<location>&, const point&) const {
-  report_error(msg::not_implemented);
+double barrier::barrier_objective(const std::list<location>& locations, const point& p) const {
+  double sum = 0.0;
+  for (const location& a : locations) sum += a.weight(0) * distance(point(a), p);
+  return sum;
 }
 
 const restriction* first_containing(const restriction_list& restrictions, const location& l) {

@@ -192,14 +192,29 @@ class barrier : public restriction {
   std::vector<point> hit_circle(const circle&) const override { return {}; }
   std::vector<point> hit_polygon(const polygon&) const override { return {}; }
   std::vector<point> hit_segment(const segment& s) const override = 0;
-  // The cost around a barrier belongs to the barrier problem, which is not part of this
-  // program yet: until then asking for it ends the run with 1411.
+  // Sum over the locations of weight 0 times the barrier distance to p (see distance).
   double barrier_objective(const std::list<location>& locations, const point& p) const override;
   std::list<location> proj_l2sqr(const location&) const override { return {}; }
+  // True when the straight segment from a to p is not blocked by the barrier.
+  virtual bool sees(const point& a, const point& p) const = 0;
+  // The shortest route from a to p around the barrier: its length, and the first point it
+  // bends at (p itself for the straight route). The penalties 1e9 (a in a circle) and 1e8 (an
+  // end in a polygon) stand for routes that do not exist.
+  struct route_to {
+    double length;
+    point via;
+  };
+  virtual route_to route(const point& a, const point& p) const = 0;
+  double distance(const point& a, const point& p) const { return route(a, p).length; }
 };
 
 class circle_barrier : public barrier {
  public:
+  bool sees(const point& a, const point& p) const override;
+  route_to route(const point& a, const point& p) const override;
+  // A point inside or on the circle costs 1e13 as a whole.
+  double barrier_objective(const std::list<location>& locations,
+                           const point& p) const override;
   // A negative radius gives the empty barrier: centre at the origin, radius 0, nothing inside.
   circle_barrier(const point& centre, double radius);
 
@@ -219,6 +234,8 @@ class circle_barrier : public barrier {
 
 class line_barrier : public barrier {
  public:
+  bool sees(const point& a, const point& p) const override;
+  route_to route(const point& a, const point& p) const override;
   line_barrier(const point& start, const point& end);
 
   int shape() const override { return 2; }
@@ -237,6 +254,8 @@ class line_barrier : public barrier {
 
 class polygon_barrier : public barrier {
  public:
+  bool sees(const point& a, const point& p) const override;
+  route_to route(const point& a, const point& p) const override;
   // A polygon that is not simple stops the run with 1413.
   explicit polygon_barrier(const std::vector<point>& points);
 
