@@ -164,7 +164,7 @@ TEST(RestrictedLine, LineThroughAVertexOnlyTouches) {
   facilities f = flat_three();
   // The triangle stands on (4, 0): the line y = 0 meets it in that one point.
   // It is kept as it is: through (0,0) and (10,0), not the equally good tangent over (4,0).
-  const double value = f.L_RkonvPoly_l2_sum(one_polygon({{4, 0}, {3, -2}, {6, -2}}));
+  const double value = f.L_RkonvPoly_l2_sum(one_polygon({{4, 0}, {3, -2}, {7, -3}}));
   EXPECT_DOUBLE_EQ(value, 1.0);
   EXPECT_EQ(f.optima_view().back().coordinate(0), 10.0);
 }
