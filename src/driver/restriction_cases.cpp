@@ -69,6 +69,13 @@ double solve_restricted_gauge_center(run_context& ctx, int) {
   return value;
 }
 
+// Number 70: the Euclidean median around the first restriction, turned into a barrier, with the
+// constants of the run.
+double solve_barrier(run_context& ctx, int) {
+  load_restrictions(ctx);
+  return keep_optima(ctx, ctx.problem.barr_l2_sum(ctx.restrictions));
+}
+
 // Numbers 307 to 310: the sum line kept off the first restriction, a forbidden polygon. 308
 // takes p from lpinfo (the value -p writes when it cannot be read) and puts it in the label.
 double solve_restricted_line(run_context& ctx, int number) {
@@ -96,7 +103,8 @@ std::vector<family_case> restriction_cases() {
   return {{50, solve_restricted},        {51, solve_restricted}, {52, solve_restricted},
           {53, solve_restricted_lp_sum}, {55, solve_restricted}, {56, solve_restricted},
           {57, solve_restricted},        {60, solve_restricted}, {61, solve_restricted},
-          {64, solve_restricted},        {211, solve_restricted_gauge_center},
+          {64, solve_restricted},        {70, solve_barrier},
+          {211, solve_restricted_gauge_center},
           {307, solve_restricted_line},  {308, solve_restricted_line},
           {309, solve_restricted_line},  {310, solve_restricted_line}};
 }

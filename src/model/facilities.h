@@ -146,6 +146,12 @@ class facilities : public std::list<location> {
   // measures every distance. ---
   double L_block_sum_M3(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
   double L_block_max_M4(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers);
+  // --- Barrier problem (src/restriction/barrier_problem.cpp): the point of least weighted sum
+  // of Euclidean distances around the first restriction, taken as a barrier. A heuristic;
+  // optima receives one point with weight entry 0 = 0. ---
+  double barr_l2_sum(const restriction_list& restrictions, bool prune = true,
+                     double fraction = 0.1, double accel = 1.0, double step = 0.01,
+                     double eps = 0.001);
   // --- Restricted line location (src/restriction/restricted_line.cpp). The line of least
   // weighted sum of distances that does not cut the first restriction, a convex forbidden
   // polygon; optima receives the line as two points on it with weight entry 0 = 1.0. ---

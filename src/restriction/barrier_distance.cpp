@@ -70,6 +70,22 @@ bool polygon_barrier::sees(const point& a, const point& p) const {
 
 namespace {
 
+// A point of a piece that runs along an edge may be rounded off it to either side; such a point
+// is taken as on the boundary.
+bool near_boundary(const polygon& shape, const point& q) {
+  const double tolerance = 1e-9 * (1.0 + std::fabs(q.xcoord()) + std::fabs(q.ycoord()));
+  for (const segment& e : shape.segments()) {
+    const double dx = e.dx(), dy = e.dy();
+    const double length2 = dx * dx + dy * dy;
+    double t = length2 == 0.0 ? 0.0
+                              : ((q.xcoord() - e.xcoord1()) * dx + (q.ycoord() - e.ycoord1()) * dy) /
+                                    length2;
+    t = std::clamp(t, 0.0, 1.0);
+    if (q.distance(point(e.xcoord1() + t * dx, e.ycoord1() + t * dy)) <= tolerance) return true;
+  }
+  return false;
+}
+
 // True when the segment from u to w runs through the interior of the polygon: the pieces between
 // the points where it meets the boundary are tested at their midpoints.
 bool enters(const polygon& shape, const point& u, const point& w) {
@@ -93,7 +109,8 @@ bool enters(const polygon& shape, const point& u, const point& w) {
     const double lo = std::clamp(cuts[k], 0.0, 1.0), hi = std::clamp(cuts[k + 1], 0.0, 1.0);
     if (hi - lo <= 1e-12) continue;
     const double t = 0.5 * (lo + hi);
-    if (shape.inside(point(u.xcoord() + t * dx, u.ycoord() + t * dy))) return true;
+    const point mid(u.xcoord() + t * dx, u.ycoord() + t * dy);
+    if (shape.inside(mid) && !near_boundary(shape, mid)) return true;
   }
   return false;
 }

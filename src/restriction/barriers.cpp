@@ -91,8 +91,9 @@ point extreme_vertex(const std::vector<point>& vertices, const point& p, int sig
   for (const point& v : vertices) {
     const halfspace h(p, v, sign);
     bool extreme = true;
+    // v itself is skipped: rounding in the side test may put it off its own line.
     for (const point& w : vertices)
-      if (h.side(w) == sign) {
+      if (w != v && h.side(w) == sign) {
         extreme = false;
         break;
       }

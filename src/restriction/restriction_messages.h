@@ -24,6 +24,15 @@ inline constexpr message not_a_hyperplane{1803, "halfspace::compute(): Not a hyp
 inline constexpr message line_needs_polygon{
     1414, "L_RkonvPoly: the first restriction must be a forbidden polygon."};
 
+// The barrier problem: one barrier only, no location inside it, and every shadow ray must leave
+// the enclosing polygon. The first two are warnings: the run goes on.
+inline constexpr message one_barrier_only{0, "This algorithm can only handle one barrier."};
+inline constexpr message no_barrier_given{0,
+                                          "No restrictions given. Executing standard algorithm."};
+inline constexpr message location_in_barrier{1802, "No locations allowed inside of barriers."};
+inline constexpr message shadow_without_cut{
+    1806, "SBO::cpt_shdw_segs(): Zero intersection found for segment."};
+
 // A warning: the run goes on with the marked point.
 inline constexpr message whole_boundary_optimal{
     0,
