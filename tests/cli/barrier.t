@@ -3,11 +3,7 @@ free median at the Fermat point (0, 5/sqrt(3)) = (0, 2.88675), of value 2 sqrt(2
 13.6603; the barrier run computes it with accuracy 0.001 and lands within a thousandth of that.
 
   $ export tmp=$PWD
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/planar_report.sh
   $ printf 'begin {location} [2,1]\n-5 0 1\n5 0 1\n0 5 1\nend {location}\n' > tri.loc
 
 A barrier far away blocks nobody: the free median stands.

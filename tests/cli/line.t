@@ -25,11 +25,8 @@ in l3.
 From here on each run shows the classification, value and points of its report on one line.
 
   $ set -o pipefail
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\|polygon\)}' |
-  >     paste -sd' '
-  > }
+  $ report_blocks='result\|classification\|objective value\|polygonlist\|polygon'
+  $ source $TESTDIR/planar_report.sh
 
 Sums: the line through two locations. In l1 the side y = 0 and the hypotenuse both leave the
 third location 3 away, and the first pair stays.

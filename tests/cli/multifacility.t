@@ -28,11 +28,7 @@ Rectilinear sum. Axis by axis, the candidates are the location coordinates: on t
 From here on each run shows the classification, value and points of its report on one line.
 
   $ set -o pipefail
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/planar_report.sh
 
 Squared Euclidean sum: the normal equations [[5, -1], [-1, 7]] x = (8, 32) and y = (6, 6) give
 x = (88, 168) / 34 and y = (48, 36) / 34; the weighted sum of squares there is 6744 / 34.

@@ -22,11 +22,7 @@ From here on each run shows the classification, value and points of its report o
 polygon after its "begin {polygon}").
 
   $ set -o pipefail
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/planar_report.sh
   $ solve -a l2sqr_sum -l $R
   1|P|.|l2sqr|sum 20 2 1 
   $ solve -a lp_sum -p 3 -l $R

@@ -4,11 +4,8 @@ the line on y = 0 at value 1 (the distance of (5,1)).
 
   $ export tmp=$PWD
   $ set -o pipefail
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\|polygon\)}' |
-  >     paste -sd' '
-  > }
+  $ report_blocks='result\|classification\|objective value\|polygonlist\|polygon'
+  $ source $TESTDIR/planar_report.sh
   $ printf 'begin {location} [2,1]\n0 0 1\n10 0 1\n5 1 1\nend {location}\n' > three.loc
 
 A square far away is not touched: the unrestricted line stands.

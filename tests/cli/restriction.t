@@ -3,11 +3,7 @@ solver keeps the unrestricted optimum when it is allowed and otherwise looks on 
 
   $ export tmp=$PWD
   $ set -o pipefail
-  $ solve() {
-  >   $MERO "$@" --output=nowindowed |
-  >     grep -v -e '^end {' -e '^begin {\(result\|classification\|objective value\|polygonlist\)}' |
-  >     paste -sd' '
-  > }
+  $ source $TESTDIR/planar_report.sh
 
 Two locations A = (1, 2) and B = (3, 2) of weight 1, and the square [0, 4]^2 forbidden. Every
 unrestricted optimum lies at or around (2, 2), inside the square.
