@@ -63,8 +63,7 @@ double solve_restricted_lp_sum(run_context& ctx, int) {
 double solve_restricted_gauge_center(run_context& ctx, int) {
   const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
   load_restrictions(ctx);
-  const double value =
-      ctx.problem.restr_gauge_center(gauges, ctx.gauge_numbers, ctx.restrictions);
+  const double value = ctx.problem.restr_gauge_center(gauges, ctx.gauge_numbers, ctx.restrictions);
   ctx.situations = ctx.problem.optima();
   return value;
 }
@@ -97,6 +96,17 @@ double solve_restricted_line(run_context& ctx, int number) {
   }
 }
 
+// Number 311 (chain RG): the block-norm sum line kept off the first restriction. The gauge file
+// is read first, then the -r file; the line stands in situations like that of 306.
+double solve_restricted_block_line(run_context& ctx, int) {
+  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  load_restrictions(ctx);
+  const double value =
+      ctx.problem.L_RkonvPoly_block_sum(ctx.restrictions, gauges, ctx.gauge_numbers);
+  ctx.situations = ctx.problem.optima();
+  return value;
+}
+
 }  // namespace
 
 std::vector<family_case> restriction_cases() {
@@ -106,7 +116,8 @@ std::vector<family_case> restriction_cases() {
           {64, solve_restricted},        {70, solve_barrier},
           {211, solve_restricted_gauge_center},
           {307, solve_restricted_line},  {308, solve_restricted_line},
-          {309, solve_restricted_line},  {310, solve_restricted_line}};
+          {309, solve_restricted_line},  {310, solve_restricted_line},
+          {311, solve_restricted_block_line}};
 }
 
 }  // namespace mero

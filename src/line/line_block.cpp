@@ -27,25 +27,6 @@ bool parallel(double vx, double vy, double ex, double ey) {
   return vy / vx == ey / ex;
 }
 
-// The extreme points of the gauge named by the first gauge number, from the origin.
-std::vector<point> block_directions(const std::vector<polygauge>& gauges,
-                                    const std::vector<int>& gauge_numbers) {
-  if (gauge_numbers.empty() || gauge_numbers.front() < 0 ||
-      gauge_numbers.front() >= static_cast<int>(gauges.size()))
-    report_error(line_messages::block_gauge_number);
-  return gauges[static_cast<std::size_t>(gauge_numbers.front())].extreme_points();
-}
-
-// The sum of weighted block distances from the line through a and b, stopped as soon as it
-// reaches bound.
-double block_sum(const std::vector<weighted_point>& points, const weighted_point& a,
-                 const weighted_point& b, const std::vector<point>& dirs, double bound) {
-  double sum = 0.0;
-  for (std::size_t k = 0; k < points.size() && sum < bound; ++k)
-    sum += block_line_distance(a, b, points[k], dirs) * points[k].w;
-  return sum;
-}
-
 // A copy of location i with weight entry 0 = 1.0, and the same copy moved by e.
 std::list<location> direction_line_points(const std::list<location>& list, int i, const point& e) {
   location copy = *std::next(list.begin(), i);
@@ -57,6 +38,22 @@ std::list<location> direction_line_points(const std::list<location>& list, int i
 }
 
 }  // namespace
+
+std::vector<point> block_directions(const std::vector<polygauge>& gauges,
+                                    const std::vector<int>& gauge_numbers) {
+  if (gauge_numbers.empty() || gauge_numbers.front() < 0 ||
+      gauge_numbers.front() >= static_cast<int>(gauges.size()))
+    report_error(line_messages::block_gauge_number);
+  return gauges[static_cast<std::size_t>(gauge_numbers.front())].extreme_points();
+}
+
+double block_line_sum(const std::vector<weighted_point>& points, const weighted_point& a,
+                      const weighted_point& b, const std::vector<point>& dirs, double bound) {
+  double sum = 0.0;
+  for (std::size_t k = 0; k < points.size() && sum < bound; ++k)
+    sum += block_line_distance(a, b, points[k], dirs) * points[k].w;
+  return sum;
+}
 
 double block_line_distance(const weighted_point& a, const weighted_point& b,
                            const weighted_point& c, const std::vector<point>& dirs) {
@@ -94,7 +91,7 @@ double facilities::L_block_sum_M3(const std::vector<polygauge>& gauges,
   for (std::size_t i = 0; i < points.size(); ++i)
     for (const point& e : dirs) {
       const weighted_point along{points[i].x + e.xcoord(), points[i].y + e.ycoord(), 1.0};
-      const double sum = block_sum(points, points[i], along, dirs, best.value + 1.0);
+      const double sum = block_line_sum(points, points[i], along, dirs, best.value + 1.0);
       if (sum < best.value) {
         best.value = sum;
         optima_ = direction_line_points(*this, static_cast<int>(i), e);

@@ -6,6 +6,8 @@
 #include <list>
 #include <vector>
 
+#include "gauge/polygauge.h"
+#include "line/line_equation.h"
 #include "line/line_geometry.h"
 #include "model/location.h"
 
@@ -46,9 +48,27 @@ pair_choice best_pair_line(const std::vector<weighted_point>& points, LineForPai
   return best;
 }
 
-// Sum of weight times Euclidean distance from the line through points i and j, with the early
-// stop at bound (1e50 for none).
-double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j, double bound = 1e50);
+// Sum of weight times Euclidean distance from the line through a and b (distinct), with the
+// early stop at bound (1e50 for none).
+double l2_line_sum(const std::vector<weighted_point>& points, const weighted_point& a,
+                   const weighted_point& b, double bound = 1e50);
+// The same for the line through points i and j, and for the two points of a line record.
+inline double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j,
+                          double bound = 1e50) {
+  return l2_line_sum(points, points[i], points[j], bound);
+}
+double l2_line_sum(const std::vector<weighted_point>& points, const line_equation& l);
+
+// The extreme points, from the origin, of the gauge named by the first gauge number: the
+// directions of a block norm. No such gauge (an empty list, a negative or too large number):
+// error 1363.
+std::vector<point> block_directions(const std::vector<polygauge>& gauges,
+                                    const std::vector<int>& gauge_numbers);
+
+// Sum of weight times block_line_distance from the line through a and b, stopped as soon as it
+// reaches bound (1e50 for none).
+double block_line_sum(const std::vector<weighted_point>& points, const weighted_point& a,
+                      const weighted_point& b, const std::vector<point>& dirs, double bound = 1e50);
 
 // Copies of the locations at positions i and j of the list with weight entry 0 = 1.0; empty when
 // no pair was chosen.
@@ -92,8 +112,7 @@ template <typename Distance>
 line_choice best_triple_line_by(const std::vector<weighted_point>& points, Distance distance) {
   return best_triple_line(points, [&](const point_pair& l) {
     double largest = 0.0;
-    for (const weighted_point& b : points)
-      largest = std::max(largest, distance(l.q, l.p, b) * b.w);
+    for (const weighted_point& b : points) largest = std::max(largest, distance(l.q, l.p, b) * b.w);
     return largest;
   });
 }

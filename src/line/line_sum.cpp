@@ -20,12 +20,19 @@ std::vector<weighted_point> line_points_of(const std::list<location>& list) {
   return points;
 }
 
-double l2_pair_sum(const std::vector<weighted_point>& points, int i, int j, double bound) {
-  const unit_direction u(points[i], points[j]);
+double l2_line_sum(const std::vector<weighted_point>& points, const weighted_point& a,
+                   const weighted_point& b, double bound) {
+  const unit_direction u(a, b);
   double sum = 0.0;
   for (std::size_t k = 0; k < points.size() && sum < bound; ++k)
-    sum += l2_line_distance(points[i], u, points[k]) * points[k].w;
+    sum += l2_line_distance(a, u, points[k]) * points[k].w;
   return sum;
+}
+
+double l2_line_sum(const std::vector<weighted_point>& points, const line_equation& l) {
+  const weighted_point a{l.first().xcoord(), l.first().ycoord(), 0.0};
+  const weighted_point b{l.second().xcoord(), l.second().ycoord(), 0.0};
+  return l2_line_sum(points, a, b);
 }
 
 std::list<location> pair_line_points(const std::list<location>& list, const pair_choice& choice) {

@@ -6,8 +6,11 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 #include <vector>
 
+#include "kernel/point.h"
+#include "line/line_equation.h"
 #include "line/line_search.h"
 #include "model/facilities.h"
 
@@ -50,13 +53,31 @@ struct side {
   }
 };
 
+point at(const weighted_point& p) { return point(p.x, p.y); }
+
+// The best halving line so far, carried as its line record from the location of the lower
+// position to the other, with the two positions for the copies of the result.
+struct halving_line {
+  double value = 1e50;
+  int i = -1;
+  int j = -1;
+  std::optional<line_equation> line;
+
+  void replace(const std::vector<weighted_point>& points, double v, int pivot, int other) {
+    value = v;
+    i = std::min(pivot, other);
+    j = std::max(pivot, other);
+    line.emplace(at(points[i]), at(points[j]));
+  }
+};
+
 // One pivot: the line through it turns counter-clockwise from just below the horizontal through a
 // half turn. A location whose offset lies in the upper half-plane starts on the left and crosses
 // to the right when the line passes it; a flipped one crosses the other way. At each direction met
 // the locations on the line are those of the group, and the sum of distances is
 // cross(u, left sum) - cross(u, right sum), O(1) from the side sums.
 void sweep_pivot(const std::vector<weighted_point>& points, int pivot, double half,
-                 pair_choice& best) {
+                 halving_line& best) {
   const std::vector<seen_point> seen = seen_from(points, pivot);
   side left, right;
   for (const seen_point& s : seen) (s.flipped ? right : left).add(s, points[s.index].w, 1.0);
@@ -74,8 +95,7 @@ void sweep_pivot(const std::vector<weighted_point>& points, int pivot, double ha
       const double uy = (seen[g].flipped ? -seen[g].dy : seen[g].dy) / length;
       const double value = cross(ux, uy, left.sx - on_left.sx, left.sy - on_left.sy) -
                            cross(ux, uy, right.sx - on_right.sx, right.sy - on_right.sy);
-      if (value < best.value)
-        best = {value, std::min(pivot, seen[g].index), std::max(pivot, seen[g].index)};
+      if (value < best.value) best.replace(points, value, pivot, seen[g].index);
     }
     for (std::size_t k = g; k < end; ++k) {
       const double w = points[seen[k].index].w;
@@ -86,7 +106,7 @@ void sweep_pivot(const std::vector<weighted_point>& points, int pivot, double ha
   }
 }
 
-// The halving lines of all pivots, O(n^2 log n) for the n angular sorts; the chosen pair's value
+// The halving lines of all pivots, O(n^2 log n) for the n angular sorts; the chosen line's value
 // is then taken by the pair loop's own sum, so that it is the value L_l2_sum_M3 gives that line.
 pair_choice best_halving_line(const std::vector<weighted_point>& points) {
   double total = 0.0, magnitude = 0.0;
@@ -96,11 +116,11 @@ pair_choice best_halving_line(const std::vector<weighted_point>& points) {
   }
   // The side weights are running sums: a tie with the half must not be lost to their rounding.
   const double half = total / 2.0 + 1e-9 * magnitude;
-  pair_choice best;
+  halving_line best;
   for (int pivot = 0; pivot < static_cast<int>(points.size()); ++pivot)
     sweep_pivot(points, pivot, half, best);
-  if (best.i >= 0) best.value = l2_pair_sum(points, best.i, best.j);
-  return best;
+  if (!best.line) return {};
+  return {l2_line_sum(points, *best.line), best.i, best.j};
 }
 
 bool has_coincident(std::vector<weighted_point> points) {

@@ -159,6 +159,10 @@ class facilities : public std::list<location> {
   double L_RkonvPoly_lp_sum(const restriction_list& restrictions, int p);
   double L_RkonvPoly_l1_sum(const restriction_list& restrictions);
   double L_RkonvPoly_linf_sum(const restriction_list& restrictions);
+  // The block norm of gauges[gauge_numbers[0]] (error 1363 if there is no such gauge).
+  double L_RkonvPoly_block_sum(const restriction_list& restrictions,
+                               const std::vector<polygauge>& gauges,
+                               const std::vector<int>& gauge_numbers);
   // --- Gauge location problems (src/gauge/gauge_median.cpp, bi_crit_gauge_median.cpp,
   // gauge_center.cpp, norm_2sum.cpp). Location i is measured with gauges[gauge_numbers[i]].
   double gauge_median(const std::vector<polygauge>& gauges, const std::vector<int>& gauge_numbers,

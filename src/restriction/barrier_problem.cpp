@@ -93,7 +93,10 @@ std::int64_t SBO::cell_code(const point& p) const {
 
 // The enclosing polygon is the hull of the locations, grown by the widened bounding box of the
 // barrier when a hull edge meets the barrier. The rays have length twice the diameter of the
-// enclosing polygon, so that they leave it from any point inside.
+// enclosing polygon, so that they leave it from any point inside. A ray runs from the tangent
+// point t on, away from the location a (along t - a): that is where a's sight of the point is cut
+// off and its route changes, so it bounds cells. Turned back through a, it would cross only points
+// that a sees directly on both sides.
 std::vector<segment> SBO::cpt_shdw_segs() const {
   std::vector<point> points;
   for (const location& l : locations_) points.emplace_back(l);

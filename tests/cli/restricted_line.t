@@ -51,3 +51,50 @@ stops at the kernel's list check.
   ORBA ERROR HANDLER
   \tdlist::head(): empty list (esc)
   
+
+The block norm (number 311) reads the gauge file first and measures with the gauge of the first
+gauge number. With the rectilinear gauge 0 of the example the values are those of l1. With a
+symmetric hexagon (corners (2,0), (1,1.5), (-1,1.5) and their mirrors) the distance from a line of
+normal n is |n.(c - a)| over max n.e: the unrestricted line y = 0 costs 10 / 15 for (5,1), and
+cuts the diamond; the tangent from (0,0) over (5,1), normal (-1,5), leaves (10,0) at 10 / 8.5
+(and ties with the later one from (10,0)); the far square leaves y = 0 alone.
+
+  $ printf 'begin {location} [2,1]\n0 0 1 {0}\n10 0 1 {0}\n5 1 1 {0}\nend {location}\n' > three_g.loc
+  $ report_blocks="$report_blocks\|situations"
+  $ solve -a L_RkonvPoly_block_sum -l three_g.loc -r diamond.restr -d $EXAMPLES/two_gauges.gauge
+  1L|P|restr|block|sum 2 0 0  5 1 
+  $ printf 'begin {polygaugelist}\nbegin {polygauge}\n2 0\n1 1.5\n-1 1.5\n-2 0\n-1 -1.5\n1 -1.5\nend {polygauge}\nend {polygaugelist}\n' > hexagon.gauge
+  $ $MERO -a L_RkonvPoly_block_sum -l three_g.loc -r diamond.restr -d hexagon.gauge --output=nowindowed
+  begin {result}
+  begin {classification}
+  1L|P|restr|block|sum
+  end {classification}
+  begin {situations}
+  1.17647
+  end {situations}
+  begin {polygonlist}
+  begin {polygon}
+  0 0 
+  5 1 
+  end {polygon}
+  end {polygonlist}
+  end {result}
+  $ solve -a L_RkonvPoly_block_sum -l three_g.loc -r far.restr -d hexagon.gauge
+  1L|P|restr|block|sum 0.666667 0 0  10 0 
+
+A gauge number without a gauge, a circle first and a file without figures are errors.
+
+  $ sed 's/{0}/{3}/' three_g.loc > bad_number.loc
+  $ $MERO -a L_RkonvPoly_block_sum -l bad_number.loc -r diamond.restr -d hexagon.gauge --output=nowindowed
+  MERO error: Line location: False gauge-number. ErrorCode: 1363
+  [1]
+  $ $MERO -a L_RkonvPoly_block_sum -l three_g.loc -r circle.restr -d hexagon.gauge --output=nowindowed
+  MERO error: L_RkonvPoly: the first restriction must be a forbidden polygon. ErrorCode: 1414
+  [1]
+  $ { $MERO -a L_RkonvPoly_block_sum -l three_g.loc -r empty.restr -d hexagon.gauge --output=nowindowed 2>err.txt; } 2>/dev/null
+  [134]
+  $ cat err.txt
+  
+  ORBA ERROR HANDLER
+  \tdlist::head(): empty list (esc)
+  

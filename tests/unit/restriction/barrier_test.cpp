@@ -60,8 +60,8 @@ bool deep_inside(const std::vector<point>& v, const point& q) {
     const point& a = v[k];
     const point& b = v[(k + 1) % v.size()];
     const double dx = b.xcoord() - a.xcoord(), dy = b.ycoord() - a.ycoord();
-    double t = ((q.xcoord() - a.xcoord()) * dx + (q.ycoord() - a.ycoord()) * dy) /
-               (dx * dx + dy * dy);
+    double t =
+        ((q.xcoord() - a.xcoord()) * dx + (q.ycoord() - a.ycoord()) * dy) / (dx * dx + dy * dy);
     t = std::clamp(t, 0.0, 1.0);
     if (q.distance(point(a.xcoord() + t * dx, a.ycoord() + t * dy)) <= 1e-7) return false;
   }
@@ -219,6 +219,36 @@ TEST(BarrierMedian, CellCodes) {
   EXPECT_EQ(sbo.cell_code(point(0.5, 3)), 0);
   EXPECT_EQ(sbo.signature(point(-1, 0.5)), (std::vector<int>{0, -1, 0}));
   EXPECT_EQ(sbo.cell_code(point(-1, 0.5)), 2 * 3);
+}
+
+TEST(BarrierMedian, ShadowSegmentsRunFromTheTangentPointsAwayFromTheLocation) {
+  // A vertical barrier inside the square of the locations. From (-4,-4) the shadow behind the end
+  // (0,1) runs along (4,5) to the top side at (2.4,4), that behind (0,-1) along (4,3) to the
+  // right side at (4,2); the other corners mirror this.
+  const std::list<location> corners = {at(-4, -4), at(4, -4), at(4, 4), at(-4, 4)};
+  const line_barrier l(point(0, -1), point(0, 1));
+  const std::vector<segment> shadows = SBO(corners, l, {}).cpt_shdw_segs();
+  ASSERT_EQ(shadows.size(), 8u);
+  std::vector<std::pair<double, double>> first;
+  for (int k = 0; k < 2; ++k) {
+    EXPECT_EQ(shadows[k].source().xcoord(), 0.0);
+    first.emplace_back(shadows[k].target().xcoord(), shadows[k].target().ycoord());
+  }
+  std::sort(first.begin(), first.end());
+  EXPECT_NEAR(first[0].first, 2.4, 1e-12);
+  EXPECT_NEAR(first[0].second, 4.0, 1e-12);
+  EXPECT_NEAR(first[1].first, 4.0, 1e-12);
+  EXPECT_NEAR(first[1].second, 2.0, 1e-12);
+  // Every segment continues the way from its location past the tangent point.
+  auto a = corners.begin();
+  for (std::size_t k = 0; k < shadows.size(); ++k) {
+    if (k > 0 && k % 2 == 0) ++a;
+    const point t = shadows[k].source(), e = shadows[k].target(), from(*a);
+    const double ux = t.xcoord() - from.xcoord(), uy = t.ycoord() - from.ycoord();
+    const double vx = e.xcoord() - t.xcoord(), vy = e.ycoord() - t.ycoord();
+    EXPECT_NEAR(ux * vy - uy * vx, 0.0, 1e-9) << k;
+    EXPECT_GT(ux * vx + uy * vy, 0.0) << k;
+  }
 }
 
 TEST(BarrierMedian, Reports) {

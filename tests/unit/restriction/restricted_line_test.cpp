@@ -8,6 +8,7 @@
 #include <cmath>
 #include <random>
 
+#include "gauge/polygauge.h"
 #include "kernel/convex_hull.h"
 #include "planar/planar_fixtures.h"
 #include "restriction/restriction.h"
@@ -18,12 +19,23 @@ namespace {
 
 using testing::at;
 
-// Weighted sum of the distances in norm p (2, 1, -1 for the maximum, or another p >= 1) from the
-// line through (x1, y1) and (x2, y2): |n.(c - a)| over the dual norm of the normal n.
+// The block norm of these tests (p = 0): a symmetric hexagon as unit ball.
+const std::vector<point> hexagon{{2, 0}, {1, 1.5}, {-1, 1.5}, {-2, 0}, {-1, -1.5}, {1, -1.5}};
+const std::vector<polygauge>& hexagon_gauge() {
+  static const std::vector<polygauge> gauges{polygauge(hexagon)};
+  return gauges;
+}
+
+// Weighted sum of the distances in norm p (2, 1, -1 for the maximum, 0 for the hexagon, or another
+// p >= 1) from the line through (x1, y1) and (x2, y2): |n.(c - a)| over the dual norm of the
+// normal n, for the hexagon its support function max over the corners e of n.e.
 double line_objective(const facilities& f, double x1, double y1, double x2, double y2, int p) {
   const double nx = std::fabs(y1 - y2), ny = std::fabs(x2 - x1);
   double dual = 0.0;
-  if (p == 1)
+  if (p == 0)
+    for (const point& e : hexagon)
+      dual = std::max(dual, (y1 - y2) * e.xcoord() + (x2 - x1) * e.ycoord());
+  else if (p == 1)
     dual = std::max(nx, ny);
   else if (p == -1)
     dual = nx + ny;
@@ -67,8 +79,7 @@ bool cuts(const std::vector<point>& polygon_vertices, const point& a, const poin
 double best_touching_pair(const facilities& f, const std::vector<point>& v, int p) {
   std::vector<point> ends(v);
   for (const location& l : f)
-    if (polygon(v).outside(point(l)))
-      ends.emplace_back(l);
+    if (polygon(v).outside(point(l))) ends.emplace_back(l);
   double best = 1e300;
   for (std::size_t i = 0; i < ends.size(); ++i)
     for (std::size_t j = 0; j < v.size(); ++j) {
@@ -88,8 +99,8 @@ double best_supporting_line(const facilities& f, const std::vector<point>& v, in
     const auto [lo, hi] = std::minmax_element(
         v.begin(), v.end(), [&](const point& a, const point& b) { return normal(a) < normal(b); });
     for (const point& q : {*lo, *hi})
-      best = std::min(best, line_objective(f, q.xcoord(), q.ycoord(), q.xcoord() + dx,
-                                           q.ycoord() + dy, p));
+      best = std::min(
+          best, line_objective(f, q.xcoord(), q.ycoord(), q.xcoord() + dx, q.ycoord() + dy, p));
   }
   return best;
 }
@@ -124,6 +135,10 @@ const norm_case norm_cases[] = {
      [](facilities& f, const restriction_list& r) { return f.L_RkonvPoly_l1_sum(r); }},
     {"linf", -1, [](facilities& f) { return f.L_linf_sum_M3(); },
      [](facilities& f, const restriction_list& r) { return f.L_RkonvPoly_linf_sum(r); }},
+    {"block", 0, [](facilities& f) { return f.L_block_sum_M3(hexagon_gauge(), {0}); },
+     [](facilities& f, const restriction_list& r) {
+       return f.L_RkonvPoly_block_sum(r, hexagon_gauge(), {0});
+     }},
 };
 
 TEST(RestrictedLine, BlockedLineMatchesBruteForceOverTouchingLines) {
@@ -197,6 +212,11 @@ TEST(RestrictedLine, EmptyListAndOtherFigures) {
                 "L_RkonvPoly: the first restriction must be a forbidden polygon.");
   EXPECT_REPORT(f.L_RkonvPoly_lp_sum(one_polygon({{4, 0}, {5, 1}, {6, 0}}), 0), 1360,
                 "facilities::L_lp_sum_M3(): p must be at least 1, or -1 for the maximum norm.");
+  EXPECT_REPORT(
+      f.L_RkonvPoly_block_sum(one_polygon({{4, 0}, {5, 1}, {6, 0}}), hexagon_gauge(), {1}), 1363,
+      "Line location: False gauge-number.");
+  EXPECT_KERNEL_ERROR(f.L_RkonvPoly_block_sum({}, hexagon_gauge(), {0}),
+                      "dlist::head(): empty list");
 }
 
 TEST(RestrictedLine, OneLocationLeavesNoLine) {
