@@ -19,7 +19,8 @@ double solve_two_sum(run_context& ctx, int number) {
 // Numbers 200, 201 and 210: the gauge file is read inside the case; the optima of a gauge problem
 // stand in situations.
 double solve_gauge_problem(run_context& ctx, int number) {
-  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  ctx.gauges = read_polygauges(ctx.request.gauge_file);
+  const std::vector<polygauge>& gauges = ctx.gauges;
   facilities& problem = ctx.problem;
   double value = 0.0;
   switch (number) {
@@ -40,7 +41,8 @@ double solve_gauge_problem(run_context& ctx, int number) {
 // Numbers 306 and 356: lines under the block norm of the gauge that the first gauge number names;
 // the line stands in situations like the optima of the other gauge problems.
 double solve_block_line(run_context& ctx, int number) {
-  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  ctx.gauges = read_polygauges(ctx.request.gauge_file);
+  const std::vector<polygauge>& gauges = ctx.gauges;
   const double value = number == 306 ? ctx.problem.L_block_sum_M3(gauges, ctx.gauge_numbers)
                                      : ctx.problem.L_block_max_M4(gauges, ctx.gauge_numbers);
   ctx.situations = ctx.problem.optima();

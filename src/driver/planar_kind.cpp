@@ -53,6 +53,8 @@ planar_scene scene_of(run_context& ctx) {
   scene.results = &ctx.results;
   scene.restrictions = &ctx.restrictions;
   scene.situations = &ctx.situations;
+  scene.gauges = &ctx.gauges;
+  scene.gauge_numbers = &ctx.gauge_numbers;
   scene.algorithm = ctx.request.algorithm;
   return scene;
 }

@@ -61,9 +61,10 @@ double solve_restricted_lp_sum(run_context& ctx, int) {
 // Number 211 (chain RG): the gauge center with the regions of the -r file; the gauge file is read
 // first, and the optimum stands in situations like that of the unrestricted gauge center.
 double solve_restricted_gauge_center(run_context& ctx, int) {
-  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  ctx.gauges = read_polygauges(ctx.request.gauge_file);
   load_restrictions(ctx);
-  const double value = ctx.problem.restr_gauge_center(gauges, ctx.gauge_numbers, ctx.restrictions);
+  const double value =
+      ctx.problem.restr_gauge_center(ctx.gauges, ctx.gauge_numbers, ctx.restrictions);
   ctx.situations = ctx.problem.optima();
   return value;
 }
@@ -99,10 +100,10 @@ double solve_restricted_line(run_context& ctx, int number) {
 // Number 311 (chain RG): the block-norm sum line kept off the first restriction. The gauge file
 // is read first, then the -r file; the line stands in situations like that of 306.
 double solve_restricted_block_line(run_context& ctx, int) {
-  const std::vector<polygauge> gauges = read_polygauges(ctx.request.gauge_file);
+  ctx.gauges = read_polygauges(ctx.request.gauge_file);
   load_restrictions(ctx);
   const double value =
-      ctx.problem.L_RkonvPoly_block_sum(ctx.restrictions, gauges, ctx.gauge_numbers);
+      ctx.problem.L_RkonvPoly_block_sum(ctx.restrictions, ctx.gauges, ctx.gauge_numbers);
   ctx.situations = ctx.problem.optima();
   return value;
 }

@@ -9,6 +9,7 @@
 #include "discrete/discrete_problem.h"
 #include "driver/algorithm_table.h"
 #include "driver/run_request.h"
+#include "gauge/polygauge.h"
 #include "kernel/matrix.h"
 #include "model/facilities.h"
 #include "network/location_graph.h"
@@ -25,6 +26,7 @@ struct run_context {
   std::list<location> results;     // optima of planar problems, for the report and the viewer
   std::list<location> situations;  // optima of gauge problems
   std::vector<int> gauge_numbers;  // from a GaugeLoc file
+  std::vector<polygauge> gauges;   // the gauge file of gauge problems, kept for the viewer
   std::string label;               // set by the run from the table after the solver
   label_values label_args;         // filled by the handler for its label
   std::vector<double> objective;   // sized by the run; only entry 0 is written and reported

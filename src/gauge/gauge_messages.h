@@ -56,4 +56,35 @@ inline constexpr message unexpected_text{1608, "unexpected  text in line %d"};
 // A list or a block that the file does not close.
 inline constexpr message unexpected_end{1608, "unexpected end of gauge-file in line %d"};
 
+// The gauge editor: its windows, buttons, panels and the messages it shows in a panel (the
+// window stays open after each of them).
+inline constexpr const char* view_title = "View Gauge";
+inline constexpr const char* create_title = "Create a Gauge";
+inline constexpr const char* save_gauge = "Save Gauge";
+inline constexpr const char* load_gauge = "Load Gauge";
+inline constexpr const char* create_gauge = "Create Gauge";
+inline constexpr const char* refresh = "Refresh";
+inline constexpr const char* close = "Close";
+inline constexpr const char* show_hide_ball = "Show/Hide Unit Ball";
+inline constexpr const char* clear_points = "Clear";
+inline constexpr const char* append_to_list = "Append to Gauge-List";
+inline constexpr const char* save_list = "Save Gauge-List";
+inline constexpr const char* clear_list = "Clear Gauge-List";
+inline constexpr const char* symmetric_toggle = "Symmetr/Unsymmetr";
+inline constexpr const char* file_item = "file:";
+inline constexpr const char* confirm = "Confirm";
+inline constexpr const char* cancel = "cancel";
+inline constexpr const char* gauge_file_default = "polygauge";
+inline constexpr const char* list_file_default = "pg_list";
+inline constexpr const char* init_panel = "Initialize window:";
+inline constexpr const char* winmin_item = "winmin:";
+inline constexpr const char* winmax_item = "winmax:";
+inline constexpr const char* cannot_open_file = "Can't open file \"%s\"!";
+inline constexpr const char* not_convex_clicks = "Polygauge is not convex!";
+inline constexpr const char* empty_list = "No gauge in list";
+// The window bounds of the first panel must be two numbers, the first below the second.
+inline constexpr const char* bad_bounds = "winmin and winmax must be numbers with winmin < winmax";
+// A loaded file that holds no gauge leaves the shown one in place.
+inline constexpr const char* no_gauge_in_file = "No gauge in file \"%s\"";
+
 }  // namespace mero::gauge_messages

@@ -38,32 +38,47 @@ std::vector<segment> rays_of(const std::vector<point>& points) {
   return dirs;
 }
 
-// The angles of the points from the first, which must rise strictly.
-std::vector<double> rising_angles(const std::vector<point>& points, const message& failure) {
-  std::vector<double> alphas;
+// The angles of the points from the first into alphas; false as soon as one does not rise
+// strictly above the one before.
+bool angles_rise(const std::vector<point>& points, std::vector<double>& alphas) {
+  alphas.clear();
   double last = -1.0;
   for (const point& p : points) {
     const double a = angle_from(points.front(), p);
-    if (!(a > last)) report_error(failure);
+    if (!(a > last)) return false;
     alphas.push_back(a);
     last = a;
   }
+  return true;
+}
+
+// The angles of the points from the first, which must rise strictly.
+std::vector<double> rising_angles(const std::vector<point>& points, const message& failure) {
+  std::vector<double> alphas;
+  if (!angles_rise(points, alphas)) report_error(failure);
   return alphas;
 }
 
 }  // namespace
 
-polygauge::polygauge(const std::vector<point>& points) {
-  if (has_origin(points)) report_error(gauge_messages::origin_point);
-  dirs_ = rays_of(points);
-  alphas_ = rising_angles(points, gauge_messages::counterclockwise);
+const message* polygauge_fault(const std::vector<point>& points) {
+  if (has_origin(points)) return &gauge_messages::origin_point;
+  std::vector<double> alphas;
+  if (!angles_rise(points, alphas)) return &gauge_messages::counterclockwise;
   // The closing step from the last ray back to the first is left out of this test on purpose.
-  for (std::size_t k = 1; k < alphas_.size(); ++k)
-    if (!(std::fabs(alphas_[k] - alphas_[k - 1]) < std::numbers::pi))
-      report_error(gauge_messages::alpha_pi);
+  for (std::size_t k = 1; k < alphas.size(); ++k)
+    if (!(std::fabs(alphas[k] - alphas[k - 1]) < std::numbers::pi))
+      return &gauge_messages::alpha_pi;
   // A point on an edge of the polygon is no corner of the hull and fails here too.
   if (points.size() < 3 || convex_hull(points).size() != points.size())
-    report_error(gauge_messages::not_convex);
+    return &gauge_messages::not_convex;
+  return nullptr;
+}
+
+polygauge::polygauge(const std::vector<point>& points) {
+  if (const message* fault = polygauge_fault(points)) report_error(*fault);
+  dirs_ = rays_of(points);
+  angles_rise(points, alphas_);
 }
 
 point polygauge::direction(int k) const {

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "kernel/message.h"
 #include "kernel/point.h"
 #include "kernel/segment.h"
 
@@ -91,6 +92,10 @@ class mixgauge : public polygauge {
 
   std::vector<bool> conetyps_;
 };
+
+// The message of the first check of the polygauge constructor that these points fail, or null
+// if they make a gauge; for callers that must not end the run on a bad gauge (the editor).
+const message* polygauge_fault(const std::vector<point>& points);
 
 // The gauge of the l1 norm: (0,1), (-1,0), (0,-1), (1,0).
 polygauge rectilinear_gauge();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -11,6 +12,8 @@
 #include "kernel/window/svg_window.h"
 #include "kernel/window/tk_window.h"
 #include "model/location_file.h"
+#include "viewer/gauge_editor.h"
+#include "viewer/planar_figures.h"
 #include "viewer/viewer_messages.h"
 
 namespace mero {
@@ -109,12 +112,18 @@ void draw_locations(window& w, const planar_slots& s, double radius) {
 
 // The drawing routine, also the window's redraw handler.
 void draw_all(window& w, const planar_slots& s) {
-  const planar_frame f = planar_frame_of(*s.scene->problem, w.width(), w.height());
+  const planar_scene& scene = *s.scene;
+  const planar_frame f =
+      planar_frame_of(*scene.problem, w.width(), w.height(), scene.restrictions);
   w.init(f.xmin, f.xmax, f.ymin);
   const double radius = 0.01 * f.extent;
   draw_axes(w, f);
   if (s.show_optima) draw_results(w, s, radius);
   draw_locations(w, s, radius);
+  if (scene.gauges && scene.gauge_numbers)
+    draw_unit_balls(w, *scene.problem, *scene.gauges, *scene.gauge_numbers, f.extent);
+  if (scene.restrictions)
+    draw_restrictions(w, *scene.restrictions, scene.algorithm == barrier_algorithm);
   if (s.viewer_hull) {
     w.set_color(color::green);
     w.draw_polygon(*s.viewer_hull);
@@ -166,6 +175,31 @@ void save_results(const window& parent, const planar_scene& scene) {
   if (!out.flush()) report_error(vm::save_failed);
 }
 
+// "View Gauge": asks for the index of a gauge until it is valid or the user quits, then shows
+// that gauge in the gauge editor's view; the viewer goes on when that is closed.
+void choose_gauge(const window& parent, const std::vector<polygauge>& gauges) {
+  const int highest = static_cast<int>(gauges.size()) - 1;
+  std::string answer = "0";
+  tk_window panel(0, 0, vm::gauge_panel);
+  panel.text_item(vm::gauge_panel_line);
+  panel.string_item(printed(vm::gauge_panel_range, highest), answer);
+  panel.button(vm::quit, 0);
+  const int ok = panel.button(vm::ok, 1);
+  panel.display(parent);
+  while (true) {
+    const int pressed = panel.open();
+    if (pressed != ok) return;
+    char* end = nullptr;
+    const long index = std::strtol(answer.c_str(), &end, 10);
+    const bool whole = end != answer.c_str() && *end == '\0';
+    if (whole && index >= 0 && index <= highest) {
+      panel.close();
+      view_gauge(gauges[static_cast<std::size_t>(index)]);
+      return;
+    }
+  }
+}
+
 std::vector<std::string> result_lines(const planar_scene& scene) {
   std::vector<std::string> lines{printed(vm::results_header, vm::optimum_word, vm::value_word),
                                  vm::results_rule};
@@ -182,12 +216,20 @@ std::vector<std::string> result_lines(const planar_scene& scene) {
 
 std::string viewer_title(const std::string& label) { return std::string(vm::title_prefix) + label; }
 
-planar_frame planar_frame_of(const facilities& locations, int width, int height) {
+planar_frame planar_frame_of(const facilities& locations, int width, int height,
+                             const restriction_list* restrictions) {
   planar_frame f{};
   f.box_xmin = locations.coordinate_min(0);
   f.box_xmax = locations.coordinate_max(0);
   f.box_ymin = locations.coordinate_min(1);
   f.box_ymax = locations.coordinate_max(1);
+  if (const std::optional<figure_box> figures =
+          restrictions ? restrictions_box(*restrictions) : std::nullopt) {
+    f.box_xmin = std::min(f.box_xmin, figures->xmin);
+    f.box_xmax = std::max(f.box_xmax, figures->xmax);
+    f.box_ymin = std::min(f.box_ymin, figures->ymin);
+    f.box_ymax = std::max(f.box_ymax, figures->ymax);
+  }
   f.extent = std::max(f.box_xmax - f.box_xmin, f.box_ymax - f.box_ymin);
   if (!(f.extent > 0.0)) f.extent = 1.0;
   const double margin = 0.2 * std::fabs(f.extent);
@@ -216,7 +258,8 @@ void view_planar_result(const planar_scene& scene) {
   w.button(vm::view_results, vm::view_number);
   w.button(vm::convex_hull, vm::hull_number);
   w.button(vm::show_hide_weights, vm::weights_number);
-  if (scene.gauge_count > 1) w.button(vm::view_gauge, vm::gauge_number);
+  const bool several_gauges = scene.gauges && scene.gauges->size() > 1;
+  if (several_gauges) w.button(vm::view_gauge, vm::gauge_number);
   if (scene.situations && scene.situations->size() > 1)
     w.button(vm::crit_situation, vm::situation_number);
   w.button(vm::show_hide_optima, vm::optima_number);
@@ -246,6 +289,9 @@ void view_planar_result(const planar_scene& scene) {
         break;
       case vm::weights_number:
         s.show_weights = !s.show_weights;
+        break;
+      case vm::gauge_number:
+        if (several_gauges) choose_gauge(w, *scene.gauges);
         break;
       case vm::situation_number:
         s.viewer_situations = !s.viewer_situations;

@@ -22,8 +22,9 @@ inline constexpr int viewer_top = 150;
 // "MERO VERSION 2.0   View Graphics:" followed by the label.
 std::string viewer_title(const std::string& label);
 
-// The world frame of the picture. The box is the bounding box of the locations; extent is the
-// larger of its width and height (1 when all locations coincide, so that the frame has a size).
+// The world frame of the picture. The box is the bounding box of the locations, widened by the
+// bounding boxes of the restrictions when there are any; extent is the larger of its width and
+// height (1 when the box is a point, so that the frame has a size).
 struct planar_frame {
   double box_xmin, box_xmax, box_ymin, box_ymax;
   double extent;
@@ -32,7 +33,8 @@ struct planar_frame {
 
 // The box widened by 0.2 of the extent on every side; the x range lengthened until it fits the
 // window's shape at the y range's height, then by a further 0.1 of its length (both ends alike).
-planar_frame planar_frame_of(const facilities& locations, int width, int height);
+planar_frame planar_frame_of(const facilities& locations, int width, int height,
+                             const restriction_list* restrictions = nullptr);
 
 // The slots the drawing routine reads; the window loop fills them before the first drawing, and
 // the buttons change them.
@@ -45,7 +47,8 @@ struct planar_slots {
 };
 
 // Sets the window's frame and draws, in this order: axes, results (if show_optima), locations
-// with names (and weights if show_weights), the hull, the situations.
+// with names (and weights if show_weights) and the unit balls of their gauges, the restrictions
+// and barriers, the hull, the situations.
 void draw_planar_result(window& w, const planar_slots& slots);
 
 // Opens the viewer on the screen and returns when the user closes it; returns at once when no

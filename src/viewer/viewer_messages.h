@@ -38,6 +38,16 @@ inline constexpr const char* value_word = "OBJECTIVE VALUE:";
 inline constexpr const char* results_rule = "------------------------------";
 inline constexpr const char* first_row = "(%8.3lf ,%8.3lf )            %13.3lf";
 inline constexpr const char* further_row = "(%8.3lf ,%8.3lf )";
+// "View Gauge": the index of the gauge to show; "Quit" comes first so that Return presses "ok".
+inline constexpr const char* gauge_panel = "Number of gauge";
+inline constexpr const char* gauge_panel_line = "Please enter the index of the desired gauge";
+inline constexpr const char* gauge_panel_range = "(between 0 and %i):";
+inline constexpr const char* quit = "Quit";
+
+// The restrictions and barriers in the picture.
+inline constexpr const char* region_inside_text = "forbidden region inside";
+inline constexpr const char* region_outside_text = "forbidden region outside";
+inline constexpr const char* barrier_text = "barrier";
 
 // The picture's texts.
 inline constexpr const char* axis_label = "%3.1lf";

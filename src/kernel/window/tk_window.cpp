@@ -3,9 +3,11 @@
 #include <tcl.h>
 #include <tk.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -141,7 +143,37 @@ bool tk_window::realize() {
   }
   realized_ = true;
   for (std::size_t i = 0; i < items().size(); ++i) build_item(i);
+  arrange_buttons();
   return true;
+}
+
+// The buttons and menus keep the width of their labels and fill rows from the left, each row
+// centred and no wider than the drawing area (a panel without one takes a single row), so that
+// a long row never widens the window beyond its picture.
+void tk_window::arrange_buttons() {
+  const int limit = width() > 0 ? width() : std::numeric_limits<int>::max();
+  constexpr int pad = 4;
+  int row = 0, used = 0;
+  for (std::size_t i = 0; i < items().size(); ++i) {
+    const item& it = items()[i];
+    if (it.what != item::kind::button && it.what != item::kind::menu) continue;
+    const std::string b = path_ + ".b.i" + std::to_string(i);
+    const int w = call_int({"winfo", "reqwidth", b}) + 2 * pad;
+    if (used > 0 && used + w > limit) {
+      ++row;
+      used = 0;
+    }
+    const std::string frame = path_ + ".b.r" + std::to_string(row);
+    if (call({"winfo", "exists", frame}) != "1") {
+      call({"frame", frame});
+      call({"pack", frame, "-side", "top"});
+    }
+    call({"pack", b, "-in", frame, "-side", "left", "-padx", std::to_string(pad), "-pady", "1"});
+    // Above its row frame, so that it shows; raised in item order, so the keyboard order of
+    // the buttons stays the order of creation.
+    call({"raise", b});
+    used += w;
+  }
 }
 
 // Text and string items stack in the upper frame; buttons and menus line up in the row below.
@@ -167,9 +199,8 @@ void tk_window::build_item(std::size_t index) {
       return;
     }
     case item::kind::button:
-      call({"button", b, "-text", it.label, "-width", "8", "-command",
+      call({"button", b, "-text", it.label, "-command",
             "::mero::event " + id + " button " + std::to_string(it.number)});
-      call({"pack", b, "-side", "left", "-padx", "4"});
       return;
     case item::kind::menu: {
       call({"menubutton", b, "-text", it.label, "-menu", b + ".m", "-relief", "raised",
@@ -179,7 +210,6 @@ void tk_window::build_item(std::size_t index) {
         call(
             {b + ".m", "add", "command", "-label", it.entries[e], "-command",
              "::mero::event " + id + " button " + std::to_string(it.number + static_cast<int>(e))});
-      call({"pack", b, "-side", "left", "-padx", "4"});
       return;
     }
   }
@@ -198,6 +228,7 @@ void tk_window::item_changed(std::size_t index) {
     call({"destroy", widget});  // a menu with new entries is built anew in its place
   }
   build_item(index);
+  if (it.what != item::kind::text && it.what != item::kind::string) arrange_buttons();
 }
 
 void tk_window::show_at(int x, int y) {
@@ -220,8 +251,15 @@ void tk_window::display() {
             call_int({"winfo", "screenheight", path_}));
 }
 
+// The asked position where the window fits on the screen; otherwise moved left and up until it
+// does (never beyond the top left corner).
 void tk_window::display(int x, int y) {
-  if (realize()) show_at(x, y);
+  if (!realize()) return;
+  call({"update", "idletasks"});
+  const int right = call_int({"winfo", "screenwidth", path_}) - call_int({"winfo", "reqwidth", path_});
+  const int bottom =
+      call_int({"winfo", "screenheight", path_}) - call_int({"winfo", "reqheight", path_});
+  show_at(std::max(0, std::min(x, right)), std::max(0, std::min(y, bottom)));
 }
 
 void tk_window::display(const window& parent) {

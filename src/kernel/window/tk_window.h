@@ -56,6 +56,7 @@ class tk_window : public window {
  private:
   bool realize();  // builds the widgets, withdrawn; false without a display
   void build_item(std::size_t index);
+  void arrange_buttons();
   void show_at(int x, int y);
   void centre_on(int left, int top, int width, int height);
   int wait(bool clicks);

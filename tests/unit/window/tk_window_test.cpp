@@ -152,5 +152,27 @@ TEST_F(tk_window_test, PixrectShowsItsPixels) {
   EXPECT_EQ(tcl(image + " get 1 0"), "0 0 255");
 }
 
+// Buttons are as wide as their labels and wrap into rows no wider than the drawing area; a
+// window that would leave the 1280 by 1024 screen of the tests is moved back onto it, one that
+// fits stays where it was asked to be.
+TEST_F(tk_window_test, ButtonsKeepTheirLabelsAndTheWindowStaysOnTheScreen) {
+  tk_window w(300, 100, "rows");
+  for (const char* label : {"Save Results", "Show/Hide Weights", "Show/Hide Optima", "Close"})
+    w.button(label);
+  w.display(1200, 1000);
+  tcl("update");
+  const std::string b1 = w.button_path(1);
+  const int label = std::stoi(tcl("font measure [" + b1 + " cget -font] {Show/Hide Weights}"));
+  EXPECT_GT(std::stoi(tcl("winfo width " + b1)), label);
+  EXPECT_EQ(tcl("winfo width " + w.path()), "300");
+  EXPECT_NE(tcl("winfo y " + b1), tcl("winfo y " + w.button_path(2)));
+  const int width = std::stoi(tcl("winfo reqwidth " + w.path()));
+  const int height = std::stoi(tcl("winfo reqheight " + w.path()));
+  EXPECT_TRUE(tcl("wm geometry " + w.path())
+                  .ends_with("+" + std::to_string(1280 - width) + "+" + std::to_string(1024 - height)));
+  w.display(650, 150);
+  EXPECT_TRUE(tcl("wm geometry " + w.path()).ends_with("+650+150"));
+}
+
 }  // namespace
 }  // namespace mero
