@@ -127,3 +127,19 @@ report and end with 0.
   $ head -n 1 out.txt; sed -n 3p report.txt
   Open Window
   1|P|.|gauges|sum
+
+With one gauge there is no "View Gauge": the same sites all measured with the rectilinear ball
+have one optimum, (3, 0), so neither "View Gauge" nor "Crit Situation" stands in the row. The
+fifth button is then "Show/Hide Optima", which opens no panel, and "Close" is the seventh.
+
+  $ printf 'begin {polygaugelist}\nbegin {polygauge}\n1 0\n0 1\n-1 0\n0 -1\nend {polygauge}\nend {polygaugelist}\n' > one.gauge
+  $ sed 's/{1}/{0}/' $EXAMPLES/gauge_sites.loc > one.loc
+  $ timeout 60 $MERO -a gauge_median -l one.loc -d one.gauge --output=file=one.txt > out.txt 2>&1 &
+  $ viewer=$(find_window 'MERO VERSION 2.0   View Graphics:1|P|.|gauges|sum') && echo found
+  found
+  $ xdotool windowfocus --sync $viewer key Tab Tab Tab Tab Tab space; gone 'Number of gauge'
+  0
+  $ xdotool windowfocus --sync $viewer key Tab Tab space; wait $!; echo "[$?]"
+  [0]
+  $ sed -n 9p one.txt
+  3 0 

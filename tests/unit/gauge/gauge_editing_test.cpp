@@ -44,11 +44,12 @@ TEST(gauge_editing, clicked_points_become_a_gauge_file_block) {
   EXPECT_EQ(back[0].extreme_points(), corners);
 }
 
-// The checks of the constructor, without ending the run: the origin outside the hull of
-// (1, 1), (2, 1), (1, 2) leaves a gap of more than pi between the last two rays.
+// The checks of the constructor, without ending the run. The origin lies outside both triangles:
+// (1, 1), (2, 1), (1, 2) turn back clockwise at the third point; (1, 0), (-1, -0.1), (-0.5, -1)
+// leave a gap of more than pi between the first two rays.
 TEST(gauge_editing, faults_are_those_of_the_constructor) {
   EXPECT_EQ(polygauge_fault({point(1, 1), point(2, 1), point(1, 2)}), &msg::counterclockwise);
-  EXPECT_EQ(polygauge_fault({point(1, 0), point(-1, 1), point(-1, 0.5)}), &msg::alpha_pi);
+  EXPECT_EQ(polygauge_fault({point(1, 0), point(-1, -0.1), point(-0.5, -1)}), &msg::alpha_pi);
   EXPECT_EQ(polygauge_fault({point(1, 0), point(0, 1)}), &msg::not_convex);
   EXPECT_EQ(polygauge_fault({point(1, 0), point(0, 0), point(0, 1)}), &msg::origin_point);
   EXPECT_REPORT(polygauge({point(1, 0), point(0, 1)}), msg::not_convex.code, msg::not_convex.text);
