@@ -27,6 +27,31 @@ selects the text there, which the typed answer replaces.)
   $ view=$(find_window 'View Gauge') && xdotool getwindowname $view
   View Gauge
 
+The drawing, 400 by 400 pixels at the bottom of the window: the triangle's coordinates run from
+-1 to 2, its larger extent is 3, so both axes run from -1.3 to 2.3, 111.11 pixels per unit. The
+corner (2, 0) is at the pixel (366.67, 255.56) with its red mark, the ray to it runs along the
+row 256 in blue (at (250, 256)), the left side x = -1 stands at the column 33.33 in red, and the
+point (0.5, 0.2) inside the ball, pixel (200, 233), stays white.
+
+  $ sleep 1; xwd -silent -id $view > view.xwd
+  $ python3 - view.xwd <<'PY'
+  > import struct, sys
+  > data = open(sys.argv[1], "rb").read()
+  > h = struct.unpack(">25I", data[:100])
+  > size, width, height, order, line, colours = h[0], h[4], h[5], h[7], h[12], h[19]
+  > assert h[11] == 32, "32 bits per pixel"
+  > base, top, left = size + colours * 12, height - 400, (width - 400) // 2
+  > def pixel(x, y):
+  >     b = data[base + (top + y) * line + 4 * (left + x):][:4]
+  >     return (b[2], b[1], b[0]) if order == 0 else (b[1], b[2], b[3])
+  > for x, y in ((366, 255), (250, 256), (33, 300), (200, 233)):
+  >     print(x, y, pixel(x, y))
+  > PY
+  366 255 (224, 0, 0)
+  250 256 (0, 0, 224)
+  33 300 (224, 0, 0)
+  200 233 (255, 255, 255)
+
 "Save Gauge" writes the shown gauge under the name of its file panel.
 
   $ xdotool windowfocus --sync $view key Tab space && answer 'Save Gauge' triangle.gauge; sleep 1
