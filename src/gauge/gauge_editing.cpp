@@ -42,7 +42,8 @@ std::vector<point> gauge_corners(const std::vector<point>& clicks) {
 gauge_frame gauge_frame_of(const polygauge& gauge) {
   const point origin;
   const double high = std::max({gauge.max(origin, 0).xcoord(), gauge.max(origin, 1).ycoord(), 0.0});
-  const double low = std::min({gauge.mini(origin, 0).xcoord(), gauge.mini(origin, 1).ycoord(), 0.0});
+  const double low =
+      std::min({gauge.mini(origin, 0).xcoord(), gauge.mini(origin, 1).ycoord(), 0.0});
   const double margin = 0.1 * std::max(gauge.max_diff(0), gauge.max_diff(1));
   return {low - margin, high + margin};
 }

@@ -3,6 +3,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
+#include <initializer_list>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -148,6 +151,29 @@ enum create_button {
 
 enum view_button { save_one = 1, load_one, create_one, refresh_view, close_view };
 
+struct labelled_button {
+  const char* label;
+  int number;
+};
+
+// The loop of an editor window: the buttons in their order, the last of which closes the window
+// as its frame does; after every other event act runs and the picture is drawn anew.
+void run_window(window& w, std::initializer_list<labelled_button> buttons,
+                const std::function<void(window&)>& draw, const std::function<void(int)>& act) {
+  for (const labelled_button& b : buttons) w.button(b.label, b.number);
+  const int close = std::data(buttons)[buttons.size() - 1].number;
+  w.set_close_value(close);
+  w.set_redraw(draw);
+  w.display();
+  draw(w);
+  for (int event = w.read_mouse(); event != close; event = w.read_mouse()) {
+    act(event);
+    w.clear();
+    draw(w);
+  }
+  w.close();
+}
+
 }  // namespace
 
 void draw_gauge(window& w, const polygauge& gauge) {
@@ -168,47 +194,42 @@ void draw_gauge(window& w, const polygauge& gauge) {
 void view_gauge(const polygauge& gauge) {
   polygauge shown = gauge;
   tk_window w(view_size, view_size, gm::view_title);
-  w.button(gm::save_gauge, save_one);
-  w.button(gm::load_gauge, load_one);
-  w.button(gm::create_gauge, create_one);
-  w.button(gm::refresh, refresh_view);
-  w.button(gm::close, close_view);
-  w.set_close_value(close_view);
-  w.set_redraw([&shown](window& win) { draw_gauge(win, shown); });
-  w.display();
-  draw_gauge(w, shown);
-  while (true) {
-    const int event = w.read_mouse();
-    if (event == close_view) break;
-    switch (event) {
-      case save_one:
-        save_as(w, gm::save_gauge, gm::gauge_file_default,
-                [&shown](std::ostream& out) { write_gauge(out, shown); });
-        break;
-      case load_one: {
-        const std::optional<std::string> name = ask_file(w, gm::load_gauge, gm::gauge_file_default);
-        if (!name) break;
-        if (!std::ifstream(*name)) {
-          show_message(w, format_message(gm::cannot_open_file, {*name}));
-          break;
+  run_window(
+      w,
+      {{gm::save_gauge, save_one},
+       {gm::load_gauge, load_one},
+       {gm::create_gauge, create_one},
+       {gm::refresh, refresh_view},
+       {gm::close, close_view}},
+      [&shown](window& win) { draw_gauge(win, shown); },
+      [&](int event) {
+        switch (event) {
+          case save_one:
+            save_as(w, gm::save_gauge, gm::gauge_file_default,
+                    [&shown](std::ostream& out) { write_gauge(out, shown); });
+            break;
+          case load_one: {
+            const std::optional<std::string> name =
+                ask_file(w, gm::load_gauge, gm::gauge_file_default);
+            if (!name) break;
+            if (!std::ifstream(*name)) {
+              show_message(w, format_message(gm::cannot_open_file, {*name}));
+              break;
+            }
+            const std::vector<polygauge> loaded = read_polygauges(*name);
+            if (loaded.empty())
+              show_message(w, format_message(gm::no_gauge_in_file, {*name}));
+            else
+              shown = loaded.front();
+            break;
+          }
+          case create_one:
+            create_gauge();
+            break;
+          default:
+            break;
         }
-        const std::vector<polygauge> loaded = read_polygauges(*name);
-        if (loaded.empty())
-          show_message(w, format_message(gm::no_gauge_in_file, {*name}));
-        else
-          shown = loaded.front();
-        break;
-      }
-      case create_one:
-        create_gauge();
-        break;
-      default:
-        break;
-    }
-    w.clear();
-    draw_gauge(w, shown);
-  }
-  w.close();
+      });
 }
 
 void create_gauge() {
@@ -216,63 +237,57 @@ void create_gauge() {
   if (!bounds) return;
   creation c{bounds->first, bounds->second, {}, {}, std::nullopt, true};
   tk_window w(create_size, create_size, gm::create_title);
-  w.button(gm::create_gauge, make_gauge);
-  w.button(gm::show_hide_ball, toggle_ball);
-  w.button(gm::clear_points, clear_points);
-  w.button(gm::append_to_list, append_gauge);
-  w.button(gm::save_list, save_list);
-  w.button(gm::clear_list, clear_list);
-  w.button(gm::symmetric_toggle, toggle_symmetric);
-  w.button(gm::refresh, refresh_create);
-  w.button(gm::close, close_create);
-  w.set_close_value(close_create);
-  w.set_redraw([&c](window& win) { c.draw(win); });
-  w.display();
-  c.draw(w);
-  while (true) {
-    const int event = w.read_mouse();
-    if (event == close_create) break;
-    switch (event) {
-      case make_gauge:
-        if (const std::optional<polygauge> g = gauge_of_clicks(w, c.points))
-          save_as(w, gm::save_gauge, gm::gauge_file_default,
-                  [&g](std::ostream& out) { write_gauge(out, *g); });
-        break;
-      case toggle_ball:
-        if (c.ball)
-          c.ball.reset();
-        else
-          c.ball = gauge_of_clicks(w, c.points);
-        break;
-      case clear_points:
-        c.points.clear();
-        c.ball.reset();
-        break;
-      case append_gauge:
-        if (const std::optional<polygauge> g = gauge_of_clicks(w, c.points))
-          c.pg_list.push_back(*g);
-        break;
-      case save_list:
-        if (c.pg_list.empty())
-          show_message(w, gm::empty_list);
-        else
-          save_as(w, gm::save_list, gm::list_file_default,
-                  [&c](std::ostream& out) { write_gauge_list(out, c.pg_list); });
-        break;
-      case clear_list:
-        c.pg_list.clear();
-        break;
-      case toggle_symmetric:
-        c.symmetric = !c.symmetric;
-        break;
-      default:
-        if (event < 0) c.click(w.clicked());  // a mouse button in the drawing
-        break;
-    }
-    w.clear();
-    c.draw(w);
-  }
-  w.close();
+  run_window(
+      w,
+      {{gm::create_gauge, make_gauge},
+       {gm::show_hide_ball, toggle_ball},
+       {gm::clear_points, clear_points},
+       {gm::append_to_list, append_gauge},
+       {gm::save_list, save_list},
+       {gm::clear_list, clear_list},
+       {gm::symmetric_toggle, toggle_symmetric},
+       {gm::refresh, refresh_create},
+       {gm::close, close_create}},
+      [&c](window& win) { c.draw(win); },
+      [&](int event) {
+        switch (event) {
+          case make_gauge:
+            if (const std::optional<polygauge> g = gauge_of_clicks(w, c.points))
+              save_as(w, gm::save_gauge, gm::gauge_file_default,
+                      [&g](std::ostream& out) { write_gauge(out, *g); });
+            break;
+          case toggle_ball:
+            if (c.ball)
+              c.ball.reset();
+            else
+              c.ball = gauge_of_clicks(w, c.points);
+            break;
+          case clear_points:
+            c.points.clear();
+            c.ball.reset();
+            break;
+          case append_gauge:
+            if (const std::optional<polygauge> g = gauge_of_clicks(w, c.points))
+              c.pg_list.push_back(*g);
+            break;
+          case save_list:
+            if (c.pg_list.empty())
+              show_message(w, gm::empty_list);
+            else
+              save_as(w, gm::save_list, gm::list_file_default,
+                      [&c](std::ostream& out) { write_gauge_list(out, c.pg_list); });
+            break;
+          case clear_list:
+            c.pg_list.clear();
+            break;
+          case toggle_symmetric:
+            c.symmetric = !c.symmetric;
+            break;
+          default:
+            if (event < 0) c.click(w.clicked());  // a mouse button in the drawing
+            break;
+        }
+      });
 }
 
 }  // namespace mero

@@ -46,8 +46,8 @@ std::optional<figure_box> restrictions_box(const restriction_list& restrictions)
   for (const auto& r : restrictions) {
     const figure_outline o = outline_of(*r);
     if (o.what == figure_outline::form::circle) {
-      take(o.center.xcoord() - o.radius, o.center.xcoord() + o.radius,
-           o.center.ycoord() - o.radius, o.center.ycoord() + o.radius);
+      take(o.center.xcoord() - o.radius, o.center.xcoord() + o.radius, o.center.ycoord() - o.radius,
+           o.center.ycoord() + o.radius);
       continue;
     }
     for (const point& p : o.vertices) take(p.xcoord(), p.xcoord(), p.ycoord(), p.ycoord());
@@ -92,10 +92,10 @@ void draw_restrictions(window& w, const restriction_list& restrictions, bool fir
   for (const auto& r : restrictions) {
     const bool is_barrier = r->kind() == 2 || (first && first_is_barrier);
     first = false;
-    const char* text = is_barrier                  ? vm::barrier_text
+    const char* text = is_barrier                 ? vm::barrier_text
                        : r->is_forbidden_inside() ? vm::region_inside_text
                                                   : vm::region_outside_text;
-    w.set_color(is_barrier                  ? barrier_color
+    w.set_color(is_barrier                 ? barrier_color
                 : r->is_forbidden_inside() ? region_inside_color
                                            : region_outside_color);
     const int old = w.set_line_width(is_barrier ? 3 : 2);

@@ -113,8 +113,7 @@ void draw_locations(window& w, const planar_slots& s, double radius) {
 // The drawing routine, also the window's redraw handler.
 void draw_all(window& w, const planar_slots& s) {
   const planar_scene& scene = *s.scene;
-  const planar_frame f =
-      planar_frame_of(*scene.problem, w.width(), w.height(), scene.restrictions);
+  const planar_frame f = planar_frame_of(*scene.problem, w.width(), w.height(), scene.restrictions);
   w.init(f.xmin, f.xmax, f.ymin);
   const double radius = 0.01 * f.extent;
   draw_axes(w, f);

@@ -256,7 +256,8 @@ void tk_window::display() {
 void tk_window::display(int x, int y) {
   if (!realize()) return;
   call({"update", "idletasks"});
-  const int right = call_int({"winfo", "screenwidth", path_}) - call_int({"winfo", "reqwidth", path_});
+  const int right =
+      call_int({"winfo", "screenwidth", path_}) - call_int({"winfo", "reqwidth", path_});
   const int bottom =
       call_int({"winfo", "screenheight", path_}) - call_int({"winfo", "reqheight", path_});
   show_at(std::max(0, std::min(x, right)), std::max(0, std::min(y, bottom)));

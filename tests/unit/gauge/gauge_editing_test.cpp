@@ -36,7 +36,8 @@ TEST(gauge_editing, clicked_points_become_a_gauge_file_block) {
             "begin {polygaugelist}\nbegin {polygauge}\n1 0\n0.5 1\n-1 0\n-0.5 -1\n"
             "end {polygauge}\nbegin {polygauge}\n0 1\n-1 0\n0 -1\n1 0\nend {polygauge}\n"
             "end {polygaugelist}\n");
-  const std::string path = ::testing::TempDir() + "gauge_editing_test_" + std::to_string(::getpid());
+  const std::string path =
+      ::testing::TempDir() + "gauge_editing_test_" + std::to_string(::getpid());
   std::ofstream(path) << list.str();
   const std::vector<polygauge> back = read_polygauges(path);
   std::remove(path.c_str());

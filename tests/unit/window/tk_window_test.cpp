@@ -168,8 +168,9 @@ TEST_F(tk_window_test, ButtonsKeepTheirLabelsAndTheWindowStaysOnTheScreen) {
   EXPECT_NE(tcl("winfo y " + b1), tcl("winfo y " + w.button_path(2)));
   const int width = std::stoi(tcl("winfo reqwidth " + w.path()));
   const int height = std::stoi(tcl("winfo reqheight " + w.path()));
-  EXPECT_TRUE(tcl("wm geometry " + w.path())
-                  .ends_with("+" + std::to_string(1280 - width) + "+" + std::to_string(1024 - height)));
+  EXPECT_TRUE(
+      tcl("wm geometry " + w.path())
+          .ends_with("+" + std::to_string(1280 - width) + "+" + std::to_string(1024 - height)));
   w.display(650, 150);
   EXPECT_TRUE(tcl("wm geometry " + w.path()).ends_with("+650+150"));
 }
