@@ -26,6 +26,17 @@ inline constexpr int save_number = 1, view_number = 4, hull_number = 3, weights_
                      gauge_number = 6, situation_number = 7, optima_number = 10,
                      refresh_number = 8, close_number = 9;
 
+// "View Gauge": the index of the gauge to show; "Quit" comes first so that Return presses "ok".
+inline constexpr const char* gauge_panel = "Number of gauge";
+inline constexpr const char* gauge_panel_line = "Please enter the index of the desired gauge";
+inline constexpr const char* gauge_panel_range = "(between 0 and %i):";
+inline constexpr const char* quit = "Quit";
+
+// The restrictions and barriers in the picture.
+inline constexpr const char* region_inside_text = "forbidden region inside";
+inline constexpr const char* region_outside_text = "forbidden region outside";
+inline constexpr const char* barrier_text = "barrier";
+
 // The panels.
 inline constexpr const char* save_panel = "Save results";
 inline constexpr const char* file_item = "file:";
@@ -38,16 +49,6 @@ inline constexpr const char* value_word = "OBJECTIVE VALUE:";
 inline constexpr const char* results_rule = "------------------------------";
 inline constexpr const char* first_row = "(%8.3lf ,%8.3lf )            %13.3lf";
 inline constexpr const char* further_row = "(%8.3lf ,%8.3lf )";
-// "View Gauge": the index of the gauge to show; "Quit" comes first so that Return presses "ok".
-inline constexpr const char* gauge_panel = "Number of gauge";
-inline constexpr const char* gauge_panel_line = "Please enter the index of the desired gauge";
-inline constexpr const char* gauge_panel_range = "(between 0 and %i):";
-inline constexpr const char* quit = "Quit";
-
-// The restrictions and barriers in the picture.
-inline constexpr const char* region_inside_text = "forbidden region inside";
-inline constexpr const char* region_outside_text = "forbidden region outside";
-inline constexpr const char* barrier_text = "barrier";
 
 // The picture's texts.
 inline constexpr const char* axis_label = "%3.1lf";
