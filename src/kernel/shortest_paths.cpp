@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <limits>
 
 #include "kernel/index.h"
 
@@ -243,10 +244,134 @@ bool potentials(graph& g, std::vector<double>& cost, std::vector<double>& p) {
 
 }  // namespace
 
+shortest_path_rows::shortest_path_rows(const graph& g, const edge_array<double>& cost) {
+  std::vector<int> place(at(g.node_index_bound()), 0);
+  int n = 0;
+  for (node v = g.first_node(); v != nullptr; v = graph::succ_node(v)) place[at(v)] = n++;
+  first_.reserve(at(n) + 1);
+  first_.push_back(0);
+  for (node v = g.first_node(); v != nullptr; v = graph::succ_node(v)) {
+    for (edge e = g.first_adj_edge(v, 0); e != nullptr; e = g.next_adj_edge(e, v, 0)) {
+      const double c = cost[e];
+      if (!(c >= 0.0)) usable_ = false;
+      arcs_.push_back({c, place[at(graph::opposite(e, v))]});
+    }
+    first_.push_back(static_cast<int>(arcs_.size()));
+  }
+  dist_.assign(at(n), 0.0);
+  state_.assign(at(n), unseen);
+  heap_.reserve(at(n));
+}
+
+void shortest_path_rows::drop_dominated_arcs() {
+  const int n = size();
+  constexpr double none = std::numeric_limits<double>::infinity();
+  // For the arcs out of u: the cheapest direct arc to each v and the cheapest two-leg paths.
+  std::vector<double> direct(at(n), none), via_any(at(n), none), via_positive(at(n), none);
+  std::vector<int> first_direct(at(n), -1);
+  std::vector<int> kept_first{0};
+  std::vector<arc> kept;
+  kept.reserve(arcs_.size());
+  for (int u = 0; u < n; ++u) {
+    const int from = first_[at(u)], to = first_[at(u) + 1];
+    for (int a = from; a < to; ++a) {
+      const arc& x = arcs_[at(a)];
+      if (x.cost < direct[at(x.to)]) {
+        direct[at(x.to)] = x.cost;
+        first_direct[at(x.to)] = a;
+      }
+      if (x.to == u) continue;
+      for (int b = first_[at(x.to)]; b < first_[at(x.to) + 1]; ++b) {
+        const arc& y = arcs_[at(b)];
+        if (y.to == u || y.to == x.to) continue;
+        const double c = x.cost + y.cost;
+        if (c < via_any[at(y.to)]) via_any[at(y.to)] = c;
+        if (x.cost > 0.0 && y.cost > 0.0 && c < via_positive[at(y.to)]) via_positive[at(y.to)] = c;
+      }
+    }
+    for (int a = from; a < to; ++a) {
+      const arc& x = arcs_[at(a)];
+      const std::size_t v = at(x.to);
+      const bool dominated = first_direct[v] != a || via_any[v] < x.cost || via_positive[v] <= x.cost;
+      if (!dominated) kept.push_back(x);
+    }
+    for (int a = from; a < to; ++a) {
+      const std::size_t v = at(arcs_[at(a)].to);
+      direct[v] = none;
+      first_direct[v] = -1;
+      for (int b = first_[v]; b < first_[v + 1]; ++b) {
+        via_any[at(arcs_[at(b)].to)] = none;
+        via_positive[at(arcs_[at(b)].to)] = none;
+      }
+    }
+    kept_first.push_back(static_cast<int>(kept.size()));
+  }
+  arcs_ = std::move(kept);
+  first_ = std::move(kept_first);
+}
+
+void shortest_path_rows::row(int s, double* out, double unreached) {
+  run(s, [](int, double) { return true; });
+  for (int v = 0; v < size(); ++v) out[v] = reached(v) ? dist_[at(v)] : unreached;
+}
+
+// A 4-ary heap: shallower than a binary one, and the four children of a place share a cache line.
+void shortest_path_rows::push(int v, double key) {
+  heap_.push_back({key, v});
+  rise(heap_.size() - 1, {key, v});
+}
+
+void shortest_path_rows::rise(std::size_t i, entry x) {
+  while (i > 0) {
+    std::size_t parent = (i - 1) / 4;
+    if (!(x.key < heap_[parent].key)) break;
+    heap_[i] = heap_[parent];
+    state_[at(heap_[i].v)] = static_cast<int>(i);
+    i = parent;
+  }
+  heap_[i] = x;
+  state_[at(x.v)] = static_cast<int>(i);
+}
+
+void shortest_path_rows::pop() {
+  const entry x = heap_.back();
+  heap_.pop_back();
+  const std::size_t n = heap_.size();
+  if (n == 0) return;
+  std::size_t i = 0;
+  for (;;) {
+    std::size_t c = 4 * i + 1;
+    if (c >= n) break;
+    std::size_t best = c;
+    const std::size_t last = std::min(c + 4, n);
+    for (std::size_t k = c + 1; k < last; ++k)
+      if (heap_[k].key < heap_[best].key) best = k;
+    if (!(heap_[best].key < x.key)) break;
+    heap_[i] = heap_[best];
+    state_[at(heap_[i].v)] = static_cast<int>(i);
+    i = best;
+  }
+  heap_[i] = x;
+  state_[at(x.v)] = static_cast<int>(i);
+}
+
 bool all_pairs_shortest_paths(graph& g, const edge_array<double>& cost,
                               std::vector<std::vector<double>>& table) {
   std::size_t bound = at(g.node_index_bound());
   table.assign(bound, std::vector<double>(bound, 0.0));
+  // With no negative cost every potential is exactly 0.0, the reduced costs are the costs and
+  // the correction adds 0.0: the rows are plain Dijkstra runs, done on the compressed arrays.
+  shortest_path_rows rows(g, cost);
+  if (rows.usable()) {
+    std::vector<node> nodes = g.all_nodes();
+    std::vector<double> row(nodes.size());
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+      rows.row(static_cast<int>(i), row.data(), 0.0);
+      std::vector<double>& out = table[at(nodes[i])];
+      for (std::size_t j = 0; j < nodes.size(); ++j) out[at(nodes[j])] = row[j];
+    }
+    return true;
+  }
   std::vector<double> c = cost_table(g, cost), p;
   if (!potentials(g, c, p)) return false;
   for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e))

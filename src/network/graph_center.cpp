@@ -1,10 +1,14 @@
 #include "network/graph_center.h"
 
+#include <cmath>
+#include <limits>
+#include <numeric>
 #include <vector>
 
 #include "kernel/error_handler.h"
 #include "kernel/graph_array.h"
 #include "kernel/index.h"
+#include "network/landmark_bounds.h"
 #include "network/network_messages.h"
 #include "network/tent_envelope.h"
 
@@ -29,20 +33,59 @@ void offer(graphpointset& result, double& value, const graph_point& candidate, d
 graphpointset node_center(location_graph& g, double& value) {
   connection_repair(g, network_messages::center_not_connected);
   location_graph copy(g);
-  matrix d = distance_matrix(copy);
+  shortest_path_rows rows = distance_rows(copy);
+  matrix d;
+  if (!rows.usable()) d = distance_matrix(copy);
   std::vector<double> w = head_weights(copy);
-  int n = d.dim1();
+  int n = static_cast<int>(w.size());
   if (n == 0) empty_list_error(network_messages::empty_weights);
-  std::vector<double> farthest;
-  for (int x = 0; x < n; ++x) {
-    double m = d(x, 0) * w[0];
-    for (int j = 1; j < n; ++j)
-      if (d(x, j) * w[at(j)] > m) m = d(x, j) * w[at(j)];
-    farthest.push_back(m);
+  // The farthest weighted distance of each node, from its own row (the first entry of greatest
+  // value), and every node of least value in order. With no negative length the row is a
+  // Dijkstra run that stops once a node it settles is weighted above the best value so far: the
+  // node cannot win or tie then. With finite weights no value is NaN and the best one is the
+  // least; with exact path sums and no negative weight, landmark bounds order the nodes and end
+  // the search at the first node whose bound exceeds the best value.
+  bool finite = true, signed_weights = false;
+  for (double x : w) finite = finite && std::isfinite(x), signed_weights = signed_weights || x < 0;
+  std::vector<int> order(at(n));
+  std::iota(order.begin(), order.end(), 0);
+  std::vector<double> bound;
+  if (rows.usable() && finite && !signed_weights && copy.is_undirected() && exact_path_sums(copy)) {
+    landmark_bounds marks(rows, w, landmark_count);
+    if (marks.complete()) bound = marks.farthest();
+    if (marks.complete()) order = order_by(bound);
   }
-  double best = farthest[0];
+  std::vector<double> farthest(at(n));
+  std::vector<char> scored(at(n), 0);
+  double best = std::numeric_limits<double>::infinity();
+  std::vector<double> row(at(n));
+  for (int x : order) {
+    if (!bound.empty() && bound[at(x)] > best) break;
+    if (rows.usable()) {
+      bool dropped = false;
+      rows.run(x, [&](int v, double dv) {
+        dropped = finite && cap_distance(dv) * w[at(v)] > best;
+        return !dropped;
+      });
+      if (dropped) continue;
+      for (int j = 0; j < n; ++j) row[at(j)] = rows.reached(j) ? cap_distance(rows.distance(j)) : 0.0;
+    } else {
+      for (int j = 0; j < n; ++j) row[at(j)] = d(x, j);
+    }
+    double m = row[0] * w[0];
+    for (int j = 1; j < n; ++j)
+      if (row[at(j)] * w[at(j)] > m) m = row[at(j)] * w[at(j)];
+    farthest[at(x)] = m;
+    scored[at(x)] = 1;
+    if (m < best) best = m;
+  }
+  // As the nodes are taken in turn: the first node's value is the start (the least one when
+  // every value is a number, and then nodes left out lie above it), a smaller one replaces the
+  // winners and an equal one joins them.
   graphpointset result;
+  if (!finite) best = farthest[0];
   for (int k = 0; k < n; ++k) {
+    if (!scored[at(k)]) continue;
     if (farthest[at(k)] == best) {
       result.push_back({k, k, 0.0});
     } else if (farthest[at(k)] < best) {

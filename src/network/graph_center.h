@@ -7,8 +7,9 @@ namespace mero {
 
 // Node center: each node x scores max_j D(x,j) * w_j (distances outward from x); the nodes of
 // least score, ties exact, are returned in node order. Repairs a disconnected g first (with a
-// message). O(n^2) after the distance matrix. A graph without nodes meets the kernel's empty
-// list check.
+// message). O(n^2) after the distance matrix; with no negative length one Dijkstra row at a time
+// in O(n + m) memory, each cut short once a node is weighted above the best score. A graph without
+// nodes meets the kernel's empty list check.
 graphpointset node_center(location_graph& g, double& value);
 
 // Absolute center of an undirected graph (Hakimi 1964): along every edge, in edge-list order,

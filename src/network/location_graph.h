@@ -13,6 +13,7 @@
 #include "kernel/graph.h"
 #include "kernel/matrix.h"
 #include "kernel/reporters.h"
+#include "kernel/shortest_paths.h"
 
 namespace mero {
 
@@ -59,8 +60,21 @@ bool is_tree(const graph& g);
 
 // Shortest path lengths, rows and columns in node-list order, entries above 1e50 cut to 1e50.
 // A pair with no directed path reads 0.0 plus the difference of the Johnson potentials (0.0 when
-// no length is negative). A negative cycle is error 2001.
+// no length is negative). A negative cycle is error 2001; a matrix larger than the machine's
+// memory is error 2005.
 matrix distance_matrix(const location_graph& g);
+
+// The rows of that matrix one at a time, for the algorithms that read a row and let it go, in
+// memory linear in the graph: nodes by their place in the node list, lengths from the edges.
+// Usable only when no length is negative or not a number; then row(s, out, 0.0) followed by
+// cap_distance of each entry is row s of distance_matrix, bit for bit.
+shortest_path_rows distance_rows(const location_graph& g);
+inline double cap_distance(double x) { return x > network_infinity ? network_infinity : x; }
+
+// True when every sum of lengths along a path is exact in double: all lengths are whole
+// multiples of one power of two and their total, in those units, stays below 2^53. Then a
+// distance reads the same from either end of an undirected graph.
+bool exact_path_sums(const location_graph& g);
 
 // The first edge joining u and v in either direction, looking around u and then around v;
 // error 2002 when there is none.

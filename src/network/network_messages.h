@@ -12,6 +12,9 @@ inline constexpr message negative_cycle{2001, "Negative cycle in graph"};
 inline constexpr message not_adjacent{2002, "The two nodes are not adjazent"};
 inline constexpr message unsupported_problem{
     2003, "This algorihm does not solve this kind of problem, sorry ;-)"};
+// The distance matrix of a graph too large for the memory of the machine.
+inline constexpr message matrix_too_large{
+    2005, "Graph too large: the distance matrix of %d nodes needs %d MB of memory"};
 inline constexpr message not_a_tree{2201, "Graph is not a tree :-)"};
 
 inline constexpr message adjacency_writer_open{2103, "Can't open file !"};

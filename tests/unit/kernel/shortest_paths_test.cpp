@@ -81,6 +81,44 @@ TEST(shortest_paths, agree_with_floyd_warshall_on_random_graphs) {
   EXPECT_GT(unreached_pairs, 20);
 }
 
+// The compressed rows against the list-based Dijkstra, bit for bit, on costs whose sums round
+// (directed and undirected, zero costs included); with the dominated arcs dropped, on integer
+// costs, against Floyd-Warshall. A negative cost makes the rows unusable.
+TEST(shortest_paths, rows_equal_dijkstra_bit_for_bit) {
+  std::mt19937 rng(11);
+  std::uniform_real_distribution<double> real(0.0, 10.0);
+  for (int round = 0; round < 60; ++round) {
+    int n = 1 + static_cast<int>(rng() % 40);
+    std::vector<testing::arc> arcs;
+    for (int k = 0; k < 3 * n; ++k) {
+      double c = round % 3 == 0 ? static_cast<double>(rng() % 6) : real(rng);
+      arcs.push_back({static_cast<int>(rng() % n), static_cast<int>(rng() % n), c});
+    }
+    GRAPH<int, double> g = testing::graph_of(n, arcs);
+    if (round % 2 == 1) g.make_undirected();
+    edge_array<double> cost = lengths_of(g);
+    shortest_path_rows rows(g, cost);
+    ASSERT_TRUE(rows.usable());
+    if (round % 3 == 0) rows.drop_dominated_arcs();
+    std::vector<node> nodes = g.all_nodes();
+    auto floyd = testing::reference_distances(n, arcs, round % 2 == 1, unreachable);
+    std::vector<double> row(n);
+    for (int s = 0; s < n; ++s) {
+      node_array<double> dist(g, -1.0);
+      node_array<edge> pred(g, nullptr);
+      dijkstra(g, nodes[s], cost, dist, pred);
+      rows.row(s, row.data(), -1.0);
+      for (int j = 0; j < n; ++j) {
+        ASSERT_EQ(row[j], dist[nodes[j]]) << "round " << round << " " << s << "-" << j;
+        if (round % 3 == 0)
+          ASSERT_EQ(row[j], floyd[s][j] == unreachable ? -1.0 : floyd[s][j]) << "round " << round;
+      }
+    }
+  }
+  GRAPH<int, double> g = testing::graph_of(2, {{0, 1, 1.0}, {1, 0, -0.5}});
+  EXPECT_FALSE(shortest_path_rows(g, lengths_of(g)).usable());
+}
+
 TEST(shortest_paths, negative_cycle_is_detected_and_the_graph_restored) {
   // 0 -> 1 (1), 1 -> 2 (-2), 2 -> 1 (1.5), 2 -> 3 (1): the cycle 1-2 cannot be reached from 3.
   auto g = testing::graph_of(4, {{0, 1, 1.0}, {1, 2, -2.0}, {2, 1, 1.5}, {2, 3, 1.0}});
