@@ -3,6 +3,7 @@
 #   UFL_Dualoc              against CBC on the strong MIP   (OR-Library uncap, 15 instances)
 #   undir_median and        against scipy's all-pairs Dijkstra with the least row sum and the
 #   loc_undir_center        least row maximum               (OR-Library pmed1 to pmed40)
+#   abs_undir_center        against the same with the absolute center edge by edge (pmed1-40)
 #   l2_v1_max               against CGAL's Min_circle_2     (10^5 and 10^6 random points)
 # Each row prints both times, the ratio peer / mero (above 1: mero is faster) and both values;
 # values that differ beyond the six digits of mero's report make the script fail.
@@ -66,10 +67,10 @@ ufl() {
 }
 
 pmed() {
-  echo "== undir_median and loc_undir_center against scipy (all-pairs Dijkstra)"
+  echo "== undir_median, loc_undir_center and abs_undir_center against scipy (all-pairs Dijkstra)"
   header
   for k in $(seq 1 40); do
-    local name="pmed$k" mt ct pt mv cv pv pc
+    local name="pmed$k" mt ct at pt qt mv cv av pv pc pa
     "$repo/scripts/orlib-pmed-to-mero" "$orlib/pmed/$name.txt" >"$work/$name.graph" 2>/dev/null
     mt=$(seconds "$mero" -a undir_median -g "$work/$name.graph" --output=nowindowed)
     mv=$(report_value)
@@ -78,8 +79,13 @@ pmed() {
     pt=$(seconds $python "$peers/pmed_scipy.py" "$orlib/pmed/$name.txt")
     pv=$(awk '$1 == "median" { print $2 }' "$work/out")
     pc=$(awk '$1 == "center" { print $2 }' "$work/out")
+    at=$(seconds "$mero" -a abs_undir_center -g "$work/$name.graph" --output=nowindowed)
+    av=$(report_value)
+    qt=$(seconds $python "$peers/pmed_scipy.py" "$orlib/pmed/$name.txt" abscenter)
+    pa=$(awk '$1 == "abscenter" { print $2 }' "$work/out")
     row "$name median" "$mt" "$pt" "$mv" "$pv"
     row "$name center" "$ct" "$pt" "$cv" "$pc"
+    row "$name abs center" "$at" "$qt" "$av" "$pa"
   done
 }
 

@@ -1,5 +1,6 @@
 #include "network/graph_center.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -102,16 +103,44 @@ graphpointset abs_center(location_graph& g, double& value) {
   connection_repair(g, network_messages::center_not_connected);
   location_graph copy(g);
   value = network_infinity;
-  matrix d = distance_matrix(copy);
+  const std::vector<double> table = distance_table(copy);
   std::vector<double> w = head_weights(copy);
-  int n = d.dim1();
+  int n = copy.number_of_nodes();
+  auto d = [&](int i, int j) { return table[at(i) * at(n) + at(j)]; };
   node_array<int> number(copy, 0);
   int k = 0;
   for (node v = copy.first_node(); v != nullptr; v = graph::succ_node(v)) number[v] = k++;
   std::vector<tent> tents(at(n));
   graphpointset result;
+  // With one finite non-negative weight for all nodes an edge is passed over when no point of it
+  // can reach the final value: that value is at most the farthest weighted distance of every
+  // edge's source (the walk starts there), and no point of an edge lies below the highest of
+  // the tents' low ends, w min(D(u,i), D(v,i)). The envelope's points are crossings of a rising
+  // and a falling line of slopes +-L w, computed within a few units in the last place of the
+  // largest height; the margin of 1e-9 of that height covers them many times over.
+  double limit = std::numeric_limits<double>::infinity();
+  const bool equal_weights = n > 0 && std::isfinite(w[0]) && w[0] >= 0.0 &&
+                             std::all_of(w.begin(), w.end(), [&](double x) { return x == w[0]; });
+  if (equal_weights) {
+    std::vector<char> seen(at(n), 0);
+    for (edge e = copy.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
+      int u = number[graph::source(e)];
+      if (seen[at(u)]++) continue;
+      double far = d(u, 0) * w[0];
+      for (int i = 1; i < n; ++i) far = std::max(far, d(u, i) * w[at(i)]);
+      limit = std::min(limit, far);
+    }
+  }
   for (edge e = copy.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
     int u = number[graph::source(e)], v = number[graph::target(e)];
+    if (equal_weights) {
+      double low = 0.0, height = 0.0;
+      for (int i = 0; i < n; ++i) {
+        low = std::max(low, std::min(d(u, i), d(v, i)));
+        height = std::max(height, std::max(d(u, i), d(v, i)) + copy.inf(e));
+      }
+      if (low * w[0] > std::min(limit, value) + 1e-9 * height * w[0]) continue;
+    }
     for (int i = 0; i < n; ++i) tents[at(i)] = node_tent(d(u, i), d(v, i), w[at(i)], copy.inf(e));
     for (const point& p : envelope_minima(tents)) {
       graph_point candidate{u, v, p.xcoord()};

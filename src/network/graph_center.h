@@ -16,7 +16,8 @@ graphpointset node_center(location_graph& g, double& value);
 // the lowest points of the upper envelope of the nodes' tents. Points of the least value are
 // kept in the order found; a point equal to the last one kept is not repeated. t = 0 and t = 1
 // are reported as the end nodes. O(m n b) for b envelope breakpoints per edge after the distance
-// matrix. A graph without edges gives an empty set and 1e50.
+// matrix. A graph without edges gives an empty set and 1e50. With all weights equal, an edge whose
+// tents' low ends all lie above a known bound on the final value is passed over.
 graphpointset abs_center(location_graph& g, double& value);
 
 }  // namespace mero

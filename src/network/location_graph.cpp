@@ -90,6 +90,32 @@ shortest_path_rows distance_rows(const location_graph& g) {
   return rows;
 }
 
+std::vector<double> distance_table(const location_graph& g) {
+  shortest_path_rows rows = distance_rows(g);
+  if (!rows.usable()) {
+    matrix d = distance_matrix(g);
+    std::vector<double> table;
+    table.reserve(at(d.dim1()) * at(d.dim1()));
+    for (int i = 0; i < d.dim1(); ++i)
+      for (int j = 0; j < d.dim1(); ++j) table.push_back(d(i, j));
+    return table;
+  }
+  const int n = rows.size();
+  check_fits(n, 1.0);
+  std::vector<double> table;
+  try {
+    table.resize(at(n) * at(n));
+  } catch (const std::bad_alloc&) {
+    too_large(n, 1.0);
+  }
+  for (int i = 0; i < n; ++i) {
+    double* out = table.data() + at(i) * at(n);
+    rows.row(i, out, 0.0);
+    for (int j = 0; j < n; ++j) out[j] = cap_distance(out[j]);
+  }
+  return table;
+}
+
 bool exact_path_sums(const location_graph& g) {
   // Every length as m * 2^e with an odd integer m: the least e is the common unit.
   int unit = std::numeric_limits<int>::max();

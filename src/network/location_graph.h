@@ -64,6 +64,9 @@ bool is_tree(const graph& g);
 // memory is error 2005.
 matrix distance_matrix(const location_graph& g);
 
+// The same matrix as one array, row after row: entry (i, j) at i n + j.
+std::vector<double> distance_table(const location_graph& g);
+
 // The rows of that matrix one at a time, for the algorithms that read a row and let it go, in
 // memory linear in the graph: nodes by their place in the node list, lengths from the edges.
 // Usable only when no length is negative or not a number; then row(s, out, 0.0) followed by
