@@ -1,10 +1,12 @@
 // The median and center from one distance row at a time against the described method on a
 // distance table made by the kernel's list-based Dijkstra, bit for bit.
+#include <algorithm>
 #include <random>
 
 #include "kernel/shortest_paths.h"
 #include "network/graph_center.h"
 #include "network/graph_median.h"
+#include "network/tent_envelope.h"
 #include "network_test_graphs.h"
 #include "test_support.h"
 
@@ -91,7 +93,49 @@ graphpointset described_abs_median(const location_graph& g, const table& d,
   return nodes;
 }
 
+// Every edge in list order, its envelope's lowest points offered as described: a smaller value
+// replaces the set, an equal one joins unless it repeats the last point.
+graphpointset described_abs_center(const location_graph& g, const table& d,
+                                   const std::vector<double>& w, double& value) {
+  graphpointset result;
+  value = network_infinity;
+  std::vector<node> nodes = g.all_nodes();
+  auto number = [&](node v) { return static_cast<int>(std::find(nodes.begin(), nodes.end(), v) - nodes.begin()); };
+  for (edge e : g.all_edges()) {
+    int u = number(graph::source(e)), v = number(graph::target(e));
+    std::vector<tent> tents;
+    for (std::size_t i = 0; i < w.size(); ++i) tents.push_back(node_tent(d[u][i], d[v][i], w[i], g.inf(e)));
+    for (const point& p : envelope_minima(tents)) {
+      graph_point c{u, v, p.xcoord()};
+      if (p.xcoord() == 0.0) c = {u, u, 0.0};
+      if (p.xcoord() == 1.0) c = {v, v, 0.0};
+      if (p.ycoord() < value) result.clear(), value = p.ycoord();
+      if (p.ycoord() == value && (result.empty() || !(result.back() == c))) result.push_back(c);
+    }
+  }
+  return result;
+}
+
 }  // namespace
+
+// The absolute center with equal weights, where edges are passed over by a bound, against the
+// walk over every edge.
+TEST(distance_rows, absolute_center_equals_the_walk_over_every_edge) {
+  std::mt19937 rng(9);
+  std::uniform_real_distribution<double> real(0.05, 10.0);
+  for (int round = 0; round < 24; ++round) {
+    const int n = 2 + round * 5 % 40;
+    std::vector<testing::arc> arcs = testing::random_arcs(rng, n, n + round % 3 * n);
+    if (round % 2 == 1)
+      for (testing::arc& a : arcs) a.length = real(rng);
+    std::vector<double> w(n, round % 3 == 0 ? 1.0 : 2.5);
+    location_graph g = undirected_form(make_location_graph(w, arcs));
+    double value = 0, expected = 0;
+    graphpointset reference = described_abs_center(g, dijkstra_table(g), w, expected);
+    EXPECT_EQ(abs_center(g, value), reference) << round;
+    EXPECT_EQ(value, expected) << round;
+  }
+}
 
 // Integer lengths (exact sums: the rows serve the median too) and real ones (the median takes
 // the matrix, the center its rows); weights with zeros, or real. Sizes reach past the points
