@@ -24,6 +24,6 @@ awk -v cols="$1" -v rows="$2" -v unit="${3:-m}" 'BEGIN {
 }
 function street(a, b,   metres) {
   metres = 100 + int(rand() * 100)
-  if (unit == "km") printf "%d %d %.3f\n", a, b, metres / 1000 + int(rand() * 10) / 10000
+  if (unit == "km") printf "%d %d %.3f\n", a, b, metres / 1000
   else printf "%d %d %d\n", a, b, metres
 }'
