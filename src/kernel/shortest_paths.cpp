@@ -292,7 +292,8 @@ void shortest_path_rows::drop_dominated_arcs() {
     for (int a = from; a < to; ++a) {
       const arc& x = arcs_[at(a)];
       const std::size_t v = at(x.to);
-      const bool dominated = first_direct[v] != a || via_any[v] < x.cost || via_positive[v] <= x.cost;
+      const bool dominated =
+          first_direct[v] != a || via_any[v] < x.cost || via_positive[v] <= x.cost;
       if (!dominated) kept.push_back(x);
     }
     for (int a = from; a < to; ++a) {

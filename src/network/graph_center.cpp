@@ -69,7 +69,8 @@ graphpointset node_center(location_graph& g, double& value) {
         return !dropped;
       });
       if (dropped) continue;
-      for (int j = 0; j < n; ++j) row[at(j)] = rows.reached(j) ? cap_distance(rows.distance(j)) : 0.0;
+      for (int j = 0; j < n; ++j)
+        row[at(j)] = rows.reached(j) ? cap_distance(rows.distance(j)) : 0.0;
     } else {
       for (int j = 0; j < n; ++j) row[at(j)] = d(x, j);
     }

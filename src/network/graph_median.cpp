@@ -49,8 +49,8 @@ void take_score(graphpointset& result, double& value, int x, double s) {
   }
 }
 
-// The scores of an undirected graph from one Dijkstra row per node. With no negative weight a
-// row is given up as soon as a bound shows its score above the best one: the nodes not yet
+// The scores of an undirected graph from one Dijkstra row per node. With finite non-negative
+// weights a row is given up once a bound shows its score above the best one: the nodes not yet
 // settled lie at least as far as the one just settled, and rounded sums of larger non-negative
 // terms are never smaller, so the bound is below the score the whole row would give. With exact
 // path sums as well, landmark bounds order the nodes and end the search at the first node whose

@@ -9,8 +9,7 @@
 
 namespace mero {
 
-landmark_bounds::landmark_bounds(shortest_path_rows& rows, const std::vector<double>& w,
-                                 int count)
+landmark_bounds::landmark_bounds(shortest_path_rows& rows, const std::vector<double>& w, int count)
     : w_(w) {
   const int n = rows.size();
   if (n == 0) return;

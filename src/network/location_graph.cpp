@@ -62,7 +62,8 @@ edge_array<double> edge_lengths(const location_graph& g) {
 // Error 2005: `copies` n by n tables of double do not fit.
 [[noreturn]] void too_large(int n, double copies) {
   const double bytes = static_cast<double>(n) * n * sizeof(double) * copies;
-  report_error(network_messages::matrix_too_large, {n, static_cast<long long>(bytes / 1048576.0) + 1});
+  report_error(network_messages::matrix_too_large,
+               {n, static_cast<long long>(bytes / 1048576.0) + 1});
 }
 
 // Error 2005 unless `copies` n by n tables of double fit in the machine's memory.

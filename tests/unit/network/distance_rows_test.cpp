@@ -100,11 +100,14 @@ graphpointset described_abs_center(const location_graph& g, const table& d,
   graphpointset result;
   value = network_infinity;
   std::vector<node> nodes = g.all_nodes();
-  auto number = [&](node v) { return static_cast<int>(std::find(nodes.begin(), nodes.end(), v) - nodes.begin()); };
+  auto number = [&](node v) {
+    return static_cast<int>(std::find(nodes.begin(), nodes.end(), v) - nodes.begin());
+  };
   for (edge e : g.all_edges()) {
     int u = number(graph::source(e)), v = number(graph::target(e));
     std::vector<tent> tents;
-    for (std::size_t i = 0; i < w.size(); ++i) tents.push_back(node_tent(d[u][i], d[v][i], w[i], g.inf(e)));
+    for (std::size_t i = 0; i < w.size(); ++i)
+      tents.push_back(node_tent(d[u][i], d[v][i], w[i], g.inf(e)));
     for (const point& p : envelope_minima(tents)) {
       graph_point c{u, v, p.xcoord()};
       if (p.xcoord() == 0.0) c = {u, u, 0.0};
@@ -173,8 +176,7 @@ TEST(distance_rows, median_and_center_equal_the_described_method) {
 // Three nodes on a path 0-1-2, weights 1, 0, 1, lengths 2: every node scores 4, and so do the
 // midpoints of both edges, each found from the pair whose second node stores it toward the first.
 TEST(distance_rows, a_path_with_a_weightless_middle_ties_everywhere) {
-  location_graph g =
-      undirected_form(make_location_graph({1, 0, 1}, {{0, 1, 2.0}, {1, 2, 2.0}}));
+  location_graph g = undirected_form(make_location_graph({1, 0, 1}, {{0, 1, 2.0}, {1, 2, 2.0}}));
   double value = 0;
   graphpointset expected{{0, 0, 0}, {1, 1, 0}, {2, 2, 0}, {1, 0, 0}, {2, 1, 0}};
   EXPECT_EQ(abs_graph_median(g, value), expected);
