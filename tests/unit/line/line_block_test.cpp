@@ -1,6 +1,5 @@
 #include "gauge/gauge_test_support.h"
 #include "line/line_geometry.h"
-#include "line/line_messages.h"
 #include "line_fixtures.h"
 
 namespace mero::testing {
@@ -134,14 +133,6 @@ TEST(line_block, hand_cases) {
   facilities pair = problem({at(0, 0), at(1, 2)});
   EXPECT_EQ(pair.L_block_max_M4(gauges, {0}), 1e50);
   EXPECT_TRUE(pair.optima().empty());
-}
-
-TEST(line_block, gauge_number_must_name_a_gauge) {
-  const std::vector<polygauge> gauges{rectilinear_gauge()};
-  facilities f = problem({at(0, 0), at(1, 0), at(0, 1)});
-  EXPECT_REPORT(f.L_block_sum_M3(gauges, {-1, 0, 0}), 1363, "Line location: False gauge-number.");
-  EXPECT_REPORT(f.L_block_max_M4(gauges, {1, 0, 0}), 1363, "Line location: False gauge-number.");
-  EXPECT_REPORT(f.L_block_sum_M3({}, {0}), 1363, "Line location: False gauge-number.");
 }
 
 }  // namespace

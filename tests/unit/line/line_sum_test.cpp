@@ -1,4 +1,4 @@
-#include "line/line_messages.h"
+#include "gauge/polygauge.h"
 #include "line_fixtures.h"
 
 namespace mero::testing {
@@ -74,30 +74,38 @@ TEST(line_lp, special_exponents_give_the_special_norms) {
   }
 }
 
-TEST(line_sum, coordinates_must_be_finite) {
+// The checks of the line solvers, each with its code and text.
+TEST(line_location, checks_of_the_input) {
+  const char* finite = "Line location: every coordinate and weight must be a finite number.";
   facilities f = problem({at(0, 0), at(HUGE_VAL, 1), at(0, 1)});
-  EXPECT_REPORT(f.L_l2_sum_M2logM(), 1362,
-                "Line location: every coordinate and weight must be a finite number.");
+  EXPECT_REPORT(f.L_l2_sum_M2logM(), 1362, finite);
   facilities g = problem({at(0, 0), at(1, 1, std::nan("")), at(0, 1)});
-  EXPECT_REPORT(g.L_l2_max_M4(), 1362,
-                "Line location: every coordinate and weight must be a finite number.");
-}
-
-TEST(line_sum, lp_loop_needs_a_norm) {
-  for (int p : {0, -2}) {
-    facilities f = problem({at(0, 0), at(1, 0), at(0, 1)});
-    EXPECT_REPORT(f.L_lp_sum_M3(p), 1360,
+  EXPECT_REPORT(g.L_l2_max_M4(), 1362, finite);
+  facilities h = problem({at(0, 0), at(1, 0), at(0, 1)});
+  for (int p : {0, -2})
+    EXPECT_REPORT(h.L_lp_sum_M3(p), 1360,
                   "facilities::L_lp_sum_M3(): p must be at least 1, or -1 for the maximum norm.");
-  }
+  EXPECT_REPORT(h.L_lp_max_M4(0), 1361,
+                "facilities::L_lp_max_M4(): p must be at least 1, or -1 for the maximum norm.");
+  const std::vector<polygauge> gauges{rectilinear_gauge()};
+  const char* number = "Line location: False gauge-number.";
+  EXPECT_REPORT(h.L_block_sum_M3(gauges, {-1, 0, 0}), 1363, number);
+  EXPECT_REPORT(h.L_block_max_M4(gauges, {1, 0, 0}), 1363, number);
+  EXPECT_REPORT(h.L_block_sum_M3({}, {0}), 1363, number);
 }
 
 // Hand cases. Three locations: the pair whose line leaves the third nearest, here (4,0)-(0,1)
-// with (0,0) at 4 / sqrt(17). Collinear locations: every pair gives 0.0 and the first pair stays.
-// A coincident pair gives no line. Two locations: their line, value 0.0.
+// with (0,0) at 4 / sqrt(17), for the pair loop and both sweeps. Collinear locations: every pair
+// gives 0.0 and the first pair stays. A coincident pair gives no line. Two locations: their line,
+// value 0.0. One location: no line, 1e50.
 TEST(line_sum, hand_cases_and_the_first_pair_on_ties) {
   facilities triangle = problem({at(0, 0), at(4, 0), at(0, 1)});
-  EXPECT_NEAR(triangle.L_l2_sum_M3(), 4 / std::sqrt(17.0), 1e-12);
-  EXPECT_EQ(triangle.optima(), (std::list<location>{at(4, 0), at(0, 1)}));
+  const std::vector<sum_solver> euclidean{&facilities::L_l2_sum_M3, &facilities::L_l2_sum_M2,
+                                          &facilities::L_l2_sum_M2logM};
+  for (sum_solver solve : euclidean) {
+    EXPECT_NEAR((triangle.*solve)(), 4 / std::sqrt(17.0), 1e-12);
+    EXPECT_EQ(triangle.optima(), (std::list<location>{at(4, 0), at(0, 1)}));
+  }
   // l1: the line (4,0)-(0,1) is 1 above (0,0), the line x = 0 is 4 away from (4,0): the first.
   EXPECT_DOUBLE_EQ(triangle.L_l1_sum_M3(), 1.0);
   EXPECT_EQ(triangle.optima(), (std::list<location>{at(0, 0), at(4, 0)}));
@@ -113,25 +121,15 @@ TEST(line_sum, hand_cases_and_the_first_pair_on_ties) {
   EXPECT_NEAR(coincident.L_l2_sum_M3(), 8 / std::sqrt(17.0), 1e-12);
   EXPECT_EQ(coincident.optima(), (std::list<location>{at(1, 1), at(2, 5)}));
 
-  facilities two = problem({at(1, 2, 5), at(3, 7, 2)});
-  for (const sum_method& m : pair_loops()) {
-    EXPECT_EQ((two.*m.solve)(), 0.0) << m.name;
-    EXPECT_EQ(two.optima(), (std::list<location>{at(1, 2), at(3, 7)})) << m.name;
+  std::vector<sum_solver> all = euclidean;
+  for (const sum_method& m : pair_loops()) all.push_back(m.solve);
+  facilities two = problem({at(1, 2, 5), at(3, 7, 2)}), one = problem({at(1, 2)});
+  for (sum_solver solve : all) {
+    EXPECT_EQ((two.*solve)(), 0.0);
+    EXPECT_EQ(two.optima(), (std::list<location>{at(1, 2), at(3, 7)}));
+    EXPECT_EQ((one.*solve)(), 1e50);
+    EXPECT_TRUE(one.optima().empty());
   }
-  facilities one = problem({at(1, 2)});
-  EXPECT_EQ(one.L_l2_sum_M3(), 1e50);
-  EXPECT_TRUE(one.optima().empty());
-}
-
-// The weight of a location draws the line towards it: a heavy location off the line of three
-// light collinear ones moves the line onto itself.
-TEST(line_sum, a_heavy_location_pulls_the_line) {
-  facilities light = problem({at(0, 0), at(5, 0), at(10, 0), at(5, 3, 1)});
-  light.L_l2_sum_M3();
-  EXPECT_EQ(light.optima().front().coordinate(1), 0.0);
-  facilities heavy = problem({at(0, 0), at(5, 0), at(10, 0), at(5, 3, 50)});
-  heavy.L_l2_sum_M3();
-  EXPECT_TRUE(heavy.optima().back() == at(5, 3)) << heavy.optima().back().coordinate(1);
 }
 
 }  // namespace

@@ -80,21 +80,5 @@ TEST(line_sweep, sorted_sweep_weighs_its_halving_lines) {
   EXPECT_NEAR(tie.L_l2_sum_M2logM(), reference.L_l2_sum_M3(), 1e-12);
 }
 
-TEST(line_sweep, small_sets) {
-  facilities two = problem({at(1, 2, 5), at(3, 7, 2)});
-  EXPECT_EQ(two.L_l2_sum_M2(), 0.0);
-  EXPECT_EQ(two.optima(), (std::list<location>{at(1, 2), at(3, 7)}));
-  EXPECT_EQ(two.L_l2_sum_M2logM(), 0.0);
-  EXPECT_EQ(two.optima(), (std::list<location>{at(1, 2), at(3, 7)}));
-  // Three locations: the pair that leaves the third nearest.
-  facilities triangle = problem({at(0, 0), at(4, 0), at(0, 1)});
-  EXPECT_NEAR(triangle.L_l2_sum_M2(), 4 / std::sqrt(17.0), 1e-12);
-  EXPECT_EQ(triangle.optima(), (std::list<location>{at(4, 0), at(0, 1)}));
-  facilities one = problem({at(1, 2)});
-  EXPECT_EQ(one.L_l2_sum_M2(), 1e50);
-  EXPECT_EQ(one.L_l2_sum_M2logM(), 1e50);
-  EXPECT_TRUE(one.optima().empty());
-}
-
 }  // namespace
 }  // namespace mero::testing
