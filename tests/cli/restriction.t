@@ -170,22 +170,6 @@ A value other than 0 and inf is refused when its block ends; a segment is only a
   MERO error: Number of Entries is wrong in line 4 in res triction-file. ErrorCode: 1410
   [1]
 
-The figures refuse polygons that are not simple: too few corners, a repeated corner, a ring
-closed by hand, and a barrier whose edges cross.
-
-  $ bad 'begin {restriction}\nbegin {polyhedron}\n0 0\n1 1\nend {polyhedron}\n'
-  MERO error: polygon: must be simple ErrorCode: 1402
-  [1]
-  $ bad 'begin {restriction}\nbegin {polyhedron}\n0 0\n1 1\n1 1\n2 0\nend {polyhedron}\n'
-  MERO error: polygon: must be simple ErrorCode: 1403
-  [1]
-  $ bad 'begin {restriction}\nbegin {polyhedron}\n0 0\n1 1\n2 0\n0 0\nend {polyhedron}\n'
-  MERO error: polygon: must be simple ErrorCode: 1404
-  [1]
-  $ bad 'begin {restriction}\nbegin {polyhedron} [inf]\n0 0\n2 2\n2 0\n0 2\nend {polyhedron}\n'
-  MERO error: polygon_barrier: Polygon is not simple ErrorCode: 1413
-  [1]
-
 A file without figures leaves the restricted medians no list to start from: the kernel's list
 check stops the run, abnormally.
 

@@ -198,15 +198,6 @@ TEST(BarrierMedian, ForbiddenRegionBecomesItsBarrier) {
   EXPECT_DOUBLE_EQ(as_region, as_barrier);
 }
 
-TEST(BarrierMedian, FewCandidatesSearchNothing) {
-  // Three locations give six shadow segments and fewer than ten crossings: no cell is searched.
-  // The circle holds the free optimum, near (0, 2.7).
-  facilities f = testing::problem({at(-5, 0), at(5, 0), at(0, 5)});
-  const double v = f.barr_l2_sum(just(std::make_unique<circle_barrier>(point(0, 2.7), 0.5)));
-  EXPECT_EQ(v, 1e10);
-  EXPECT_EQ(point(f.optima_view().front()), point(0, 0));
-}
-
 TEST(BarrierMedian, CellCodes) {
   // Locations left, right and above a vertical barrier; the point right of it is seen by the
   // right and the top location; the left one goes round over the lower end, on the right of its
@@ -251,26 +242,8 @@ TEST(BarrierMedian, ShadowSegmentsRunFromTheTangentPointsAwayFromTheLocation) {
   }
 }
 
-TEST(BarrierMedian, Reports) {
-  facilities f = ring();
-  restriction_list empty;
-  testing::messages().clear();
-  EXPECT_KERNEL_ERROR(f.barr_l2_sum(empty), "dlist::head(): empty list");
-  ASSERT_EQ(testing::messages().size(), 1u);
-  EXPECT_EQ(testing::messages()[0].text, "No restrictions given. Executing standard algorithm.");
-  EXPECT_REPORT(f.barr_l2_sum(just(std::make_unique<circle_barrier>(point(5, 0), 9.5))), 1802,
-                "No locations allowed inside of barriers.");
-  restriction_list three;
-  for (int k = 0; k < 3; ++k) three.push_back(std::make_unique<circle_barrier>(point(40, 40), 1));
-  testing::messages().clear();
-  f.barr_l2_sum(three);
-  ASSERT_EQ(testing::messages().size(), 1u);
-  EXPECT_EQ(testing::messages()[0].text, "This algorithm can only handle one barrier.");
-  three.pop_back();
-  testing::messages().clear();
-  f.barr_l2_sum(three);
-  EXPECT_TRUE(testing::messages().empty());
-}
+// The run with too few candidates and the messages and errors of the barrier median are shown
+// end to end by tests/cli/barrier.t.
 
 }  // namespace
 }  // namespace mero

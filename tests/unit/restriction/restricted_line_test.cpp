@@ -162,67 +162,22 @@ TEST(RestrictedLine, BlockedLineMatchesBruteForceOverTouchingLines) {
     }
 }
 
-// Locations (0,0) w 1, (10,0) w 1, (5,1) w 1: the best line is y = 0 with value 1.
-facilities flat_three() { return testing::problem({at(0, 0), at(10, 0), at(5, 1)}); }
-
-TEST(RestrictedLine, MissedPolygonKeepsTheUnrestrictedLine) {
-  for (const norm_case& c : norm_cases) {
-    facilities f = flat_three(), plain = flat_three();
-    const double z = c.plain(plain);
-    const double value = c.restricted(f, one_polygon({{20, 20}, {20, 30}, {30, 30}, {30, 20}}));
-    EXPECT_DOUBLE_EQ(value, z) << c.name;
-    EXPECT_EQ(f.optima(), plain.optima()) << c.name;
-  }
-}
-
-TEST(RestrictedLine, LineThroughAVertexOnlyTouches) {
-  facilities f = flat_three();
-  // The triangle stands on (4, 0): the line y = 0 meets it in that one point.
-  // It is kept as it is: through (0,0) and (10,0), not the equally good tangent over (4,0).
-  const double value = f.L_RkonvPoly_l2_sum(one_polygon({{4, 0}, {3, -2}, {7, -3}}));
-  EXPECT_DOUBLE_EQ(value, 1.0);
+// A far square, a square with a side parallel to y = 0, the diamond cut by y = 0 in every norm,
+// and the errors of a circle first and of an empty file are shown end to end by
+// tests/cli/restricted_line.t.
+TEST(RestrictedLine, HandCases) {
+  // (0,0), (10,0), (5,1) of weight 1: unrestricted, the best line is y = 0 with value 1.
+  facilities f = testing::problem({at(0, 0), at(10, 0), at(5, 1)});
+  // The triangle stands on (4, 0): the line y = 0 meets it in that one point. It is kept as it
+  // is: through (0,0) and (10,0), not the equally good tangent over (4,0).
+  EXPECT_DOUBLE_EQ(f.L_RkonvPoly_l2_sum(one_polygon({{4, 0}, {3, -2}, {7, -3}})), 1.0);
   EXPECT_EQ(f.optima_view().back().coordinate(0), 10.0);
-}
-
-TEST(RestrictedLine, ParallelEdgeKeepsTheLineEvenWhenItCuts) {
-  facilities f = flat_three();
-  // The square [2, 8] x [-3, 3] is cut by y = 0, but its bottom side is parallel to it.
-  const double value = f.L_RkonvPoly_l2_sum(one_polygon({{2, -3}, {2, 3}, {8, 3}, {8, -3}}));
-  EXPECT_DOUBLE_EQ(value, 1.0);
-}
-
-TEST(RestrictedLine, CuttingLineGivesTheBestTangent) {
-  facilities f = flat_three();
-  // The diamond around (5, 0) with corners 1 away: y = 0 cuts it. A line through (0,0) and the
-  // top corner (5, 1) also runs through (5,1) and leaves (10,0) at 10 sin(atan(1/5)) = 1.9612;
-  // the edge lines and the other tangents are worse.
-  const std::vector<point> diamond = {{4, 0}, {5, 1}, {6, 0}, {5, -1}};
-  const double value = f.L_RkonvPoly_l2_sum(one_polygon(diamond));
-  EXPECT_NEAR(value, 10.0 / std::sqrt(26.0), 1e-12);
-  EXPECT_NEAR(value, best_touching_pair(f, diamond, 2), 1e-12);
-  for (const location& o : f.optima_view()) EXPECT_EQ(o.weight(0), 1.0);
-}
-
-TEST(RestrictedLine, EmptyListAndOtherFigures) {
-  facilities f = flat_three();
-  EXPECT_KERNEL_ERROR(f.L_RkonvPoly_l2_sum({}), "dlist::head(): empty list");
-  restriction_list circle;
-  circle.push_back(std::make_unique<restr_circle>(point(5, 0), 1.0));
-  EXPECT_REPORT(f.L_RkonvPoly_l1_sum(circle), 1414,
-                "L_RkonvPoly: the first restriction must be a forbidden polygon.");
   EXPECT_REPORT(f.L_RkonvPoly_lp_sum(one_polygon({{4, 0}, {5, 1}, {6, 0}}), 0), 1360,
                 "facilities::L_lp_sum_M3(): p must be at least 1, or -1 for the maximum norm.");
-  EXPECT_REPORT(
-      f.L_RkonvPoly_block_sum(one_polygon({{4, 0}, {5, 1}, {6, 0}}), hexagon_gauge(), {1}), 1363,
-      "Line location: False gauge-number.");
-  EXPECT_KERNEL_ERROR(f.L_RkonvPoly_block_sum({}, hexagon_gauge(), {0}),
-                      "dlist::head(): empty list");
-}
-
-TEST(RestrictedLine, OneLocationLeavesNoLine) {
-  facilities f = testing::problem({at(1, 1)});
-  EXPECT_EQ(f.L_RkonvPoly_l2_sum(one_polygon({{0, 0}, {0, 2}, {2, 2}, {2, 0}})), 1e50);
-  EXPECT_TRUE(f.optima_view().empty());
+  // One location leaves no line.
+  facilities one = testing::problem({at(1, 1)});
+  EXPECT_EQ(one.L_RkonvPoly_l2_sum(one_polygon({{0, 0}, {0, 2}, {2, 2}, {2, 0}})), 1e50);
+  EXPECT_TRUE(one.optima_view().empty());
 }
 
 }  // namespace

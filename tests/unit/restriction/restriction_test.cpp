@@ -245,10 +245,6 @@ TEST(RestrictionList, FirstContainingAndInsideAll) {
   EXPECT_TRUE(inside_all({*std::next(both.begin()), both.back()}, list[1].get()));
   EXPECT_REPORT(inside_all(both, nullptr), 1412, "Restriction is empty in inside_all");
   EXPECT_EQ(list[1]->barrier_objective(both, point(0, 0)), 0.0);
-  list[1]->set_forbidden_inside();
-  EXPECT_TRUE(list[1]->is_forbidden_inside());
-  list[1]->set_forbidden_outside();
-  EXPECT_FALSE(list[1]->is_forbidden_inside());
 }
 
 }  // namespace
