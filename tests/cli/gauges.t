@@ -6,57 +6,28 @@ The four sites of the example, two with the rectilinear gauge and two with the t
 from (1,0) to (2.5,-1.5) and the largest weighted distance 4.1783 near (1.92,-0.26); the exact
 center is 25/6 at (23/12, -1/4):
 
-  $ $MERO -a gauge_median -l $EXAMPLES/gauge_sites.loc -d $EXAMPLES/two_gauges.gauge --output=nowindowed
-  begin {result}
-  begin {classification}
-  1|P|.|gauges|sum
-  end {classification}
-  begin {situations}
-  14
-  end {situations}
-  begin {polygonlist}
-  begin {polygon}
-  1 0 
-  2.5 -1.5 
-  end {polygon}
-  end {polygonlist}
-  end {result}
-  $ $MERO -a gauge_center -l $EXAMPLES/gauge_sites.loc -d $EXAMPLES/two_gauges.gauge --output=nowindowed | sed -n '3p;6p;9p'
-  1|P|.|gauges|max
-  4.16667
-  1.91667 -0.25 
+  $ source $TESTDIR/planar_report.sh
+  $ G="-l $EXAMPLES/gauge_sites.loc -d $EXAMPLES/two_gauges.gauge"
+  $ solve -a gauge_median $G
+  1|P|.|gauges|sum begin {situations} 14 begin {polygon} 1 0  2.5 -1.5 
+  $ solve -a gauge_center $G
+  1|P|.|gauges|max begin {situations} 4.16667 1.91667 -0.25 
 
 With two weight columns the efficient set runs from the best point of column 0, (1,0), to that
 of column 1, West at (0,0), along the x-axis (the grid brute force finds the same chain). The
 value of the two-column problems is 0:
 
-  $ $MERO -a bi_crit_gauge_median -l $EXAMPLES/gauge_sites_two_weights.loc -d $EXAMPLES/two_gauges.gauge --output=nowindowed | sed -n '3p;6p;8,13p'
-  1|P|.|gauges|qsum
-  0
-  begin {polygonlist}
-  begin {polygon}
-  0 0 
-  1 0 
-  end {polygon}
-  end {polygonlist}
+  $ solve -a bi_crit_gauge_median -l $EXAMPLES/gauge_sites_two_weights.loc -d $EXAMPLES/two_gauges.gauge
+  1|P|.|gauges|qsum begin {situations} 0 begin {polygon} 0 0  1 0 
 
 l1_2sum and linf_2sum on two sites, each weighted in one column only: every point between them
 in the norm is efficient, the box for l1 and a parallelogram for the maximum norm:
 
   $ printf 'begin {location} [2,2]\n0 0 1 0\n2 1 0 1\nend\n' > pair.loc
-  $ $MERO -a l1_2sum -l pair.loc --output=nowindowed | sed -n '3p;6p;10,13p'
-  1|P|.|l1|2sum
-  0
-  0 0 
-  2 0 
-  2 1 
-  0 1 
-  $ $MERO -a linf_2sum -l pair.loc --output=nowindowed | sed -n '3p;10,13p'
-  1|P|.|linf|2sum
-  0 0 
-  0.5 -0.5 
-  2 1 
-  1.5 1.5 
+  $ solve -a l1_2sum -l pair.loc
+  1|P|.|l1|2sum 0 begin {polygon} 0 0  2 0  2 1  0 1 
+  $ solve -a linf_2sum -l pair.loc
+  1|P|.|linf|2sum 0 begin {polygon} 0 0  0.5 -0.5  2 1  1.5 1.5 
 
 The gauge file: it cannot be opened; a mixed list where polygonal gauges are wanted:
 
@@ -164,28 +135,16 @@ region that does not hold the center leaves it, and a barrier has no boundary se
 
   $ printf 'begin {location} [2,1]\n0 0 1 {0}\n10 0 1 {0}\nend\n' > two_sites.loc
   $ restr() { printf "begin {restriction}\n$1\nend {restriction}\n" > r.restr; }
-  $ rg() { $MERO -a restr_gauge_center -l two_sites.loc -d $EXAMPLES/two_gauges.gauge -r r.restr --output=nowindowed; }
+  $ rg() { solve -a restr_gauge_center -l two_sites.loc -d $EXAMPLES/two_gauges.gauge -r r.restr; }
   $ restr 'begin {polyhedron} [0]\n4 -1\n4 1\n6 1\n6 -1\nend {polyhedron}'
   $ rg
-  begin {result}
-  begin {classification}
-  1|P|R|gauges|max
-  end {classification}
-  begin {situations}
-  6
-  end {situations}
-  begin {polygonlist}
-  4 0 
-  end {polygonlist}
-  end {result}
+  1|P|R|gauges|max begin {situations} 6 4 0 
   $ restr 'begin {circle}\n5 0 1\nend {circle}'
-  $ rg | sed -n '6p;9p'
-  6
-  4 0 
+  $ rg
+  1|P|R|gauges|max begin {situations} 6 4 0 
   $ restr 'begin {circle}\n50 50 1\nend {circle}'
-  $ rg | sed -n '6p;9p'
-  5
-  5 0 
+  $ rg
+  1|P|R|gauges|max begin {situations} 5 5 0 
   $ restr 'begin {circle} [inf]\n5 0 1\nend {circle}'
   $ rg
   MERO error: Not implemented for this kind of restriction. ErrorCode: 1411

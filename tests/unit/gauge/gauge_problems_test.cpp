@@ -2,7 +2,7 @@
 
 #include "gauge/gauge_messages.h"
 #include "gauge_test_support.h"
-#include "model/facilities.h"
+#include "planar/planar_fixtures.h"
 
 namespace mero::testing {
 namespace {
@@ -17,14 +17,8 @@ struct instance {
 
 facilities problem_of(const instance& in) {
   facilities f;
-  for (std::size_t i = 0; i < in.sites.size(); ++i) {
-    location l(2, static_cast<int>(in.weights[i].size()));
-    l.coordinate_ref(0) = in.sites[i].xcoord();
-    l.coordinate_ref(1) = in.sites[i].ycoord();
-    for (std::size_t k = 0; k < in.weights[i].size(); ++k)
-      l.weight_ref(static_cast<int>(k)) = in.weights[i][k];
-    f.push_back(l);
-  }
+  for (std::size_t i = 0; i < in.sites.size(); ++i)
+    f.push_back(site(in.sites[i].xcoord(), in.sites[i].ycoord(), in.weights[i]));
   return f;
 }
 
@@ -53,22 +47,21 @@ instance random_instance(std::mt19937& gen, int n, int columns) {
   return in;
 }
 
-double sum_of(const instance& in, const point& x, int column = 0) {
-  double s = 0.0;
-  for (std::size_t i = 0; i < in.sites.size(); ++i)
-    s += in.weights[i][column] * gauge_by_edges(in.balls[i], x.xcoord() - in.sites[i].xcoord(),
+// The weighted gauge distances of column `column` to x, summed or the largest.
+double value_of(const instance& in, const point& x, int column, bool is_max) {
+  double v = 0.0;
+  for (std::size_t i = 0; i < in.sites.size(); ++i) {
+    const double term =
+        in.weights[i][column] * gauge_by_facets(in.balls[i], x.xcoord() - in.sites[i].xcoord(),
                                                 x.ycoord() - in.sites[i].ycoord());
-  return s;
+    v = is_max ? std::max(v, term) : v + term;
+  }
+  return v;
 }
-
-double max_of(const instance& in, const point& x) {
-  double m = 0.0;
-  for (std::size_t i = 0; i < in.sites.size(); ++i)
-    m = std::max(m,
-                 in.weights[i][0] * gauge_by_edges(in.balls[i], x.xcoord() - in.sites[i].xcoord(),
-                                                   x.ycoord() - in.sites[i].ycoord()));
-  return m;
+double sum_of(const instance& in, const point& x, int column = 0) {
+  return value_of(in, x, column, false);
 }
+double max_of(const instance& in, const point& x) { return value_of(in, x, 0, true); }
 
 // The crossings of the full rays of different sites, by the test's own parametric solve.
 std::vector<point> ray_crossings(const instance& in) {
@@ -209,23 +202,13 @@ TEST(gauge_center, hand_cases) {
   EXPECT_EQ(point(g.optima().front()), point(2, 5));
 }
 
-TEST(two_column_sums, efficient_sets_known_by_hand) {
-  // l1: every point of the box between A (column 0) and B (column 1) is efficient.
-  facilities a = problem_of({{point(0, 0), point(2, 1)}, {{1.0, 0.0}, {0.0, 1.0}}, {}});
-  EXPECT_EQ(a.l1_2sum(true), 0.0);
-  EXPECT_EQ(points_of(a.optima()),
-            (std::vector<point>{point(0, 0), point(2, 0), point(2, 1), point(0, 1)}));
-  // linf: the parallelogram of points with |x - A| + |x - B| = |A - B| in the maximum norm.
-  facilities b = problem_of({{point(0, 0), point(2, 1)}, {{1.0, 0.0}, {0.0, 1.0}}, {}});
-  b.linf_2sum(true);
-  EXPECT_EQ(points_of(b.optima()),
-            (std::vector<point>{point(0, 0), point(0.5, -0.5), point(2, 1), point(1.5, 1.5)}));
+// The box and the parallelogram of two sites are shown end to end by tests/cli/gauges.t.
+TEST(two_column_sums, collinear_sites_and_one_column) {
   // Three sites on a line; both objectives' best points reduce to the middle site.
   facilities c = problem_of(
       {{point(0, 0), point(1, 0), point(3, 0)}, {{1.0, 0.0}, {1.0, 1.0}, {0.0, 1.0}}, {}});
   c.l1_2sum(true);
   EXPECT_EQ(points_of(c.optima()), std::vector<point>{point(1, 0)});
-  // One column only.
   facilities d = problem_of({{point(0, 0), point(1, 1)}, {{1.0}, {1.0}}, {}});
   EXPECT_REPORT(d.l1_2sum(true), msg::bi_crit_weight_dim.code, msg::bi_crit_weight_dim.text);
 }

@@ -50,20 +50,6 @@ inline double gauge_by_definition(const std::vector<point>& ball, double dx, dou
   return high;
 }
 
-// The gauge as the largest of the linear functions of its edges (exact for a ball around the
-// origin): e . n = 1 on each edge.
-inline double gauge_by_edges(const std::vector<point>& ball, double dx, double dy) {
-  double best = 0.0;
-  for (std::size_t k = 0; k < ball.size(); ++k) {
-    const point& a = ball[k];
-    const point& b = ball[(k + 1) % ball.size()];
-    const double cross = a.xcoord() * b.ycoord() - a.ycoord() * b.xcoord();
-    const double nx = (b.ycoord() - a.ycoord()) / cross, ny = (a.xcoord() - b.xcoord()) / cross;
-    best = std::max(best, nx * dx + ny * dy);
-  }
-  return best;
-}
-
 // A convex polygon with k corners around the origin, counter-clockwise from a random first
 // corner: angles spread evenly with a jitter that keeps consecutive rays well below pi apart.
 inline std::vector<point> random_ball(std::mt19937& gen, int k) {
