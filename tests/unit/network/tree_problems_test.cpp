@@ -20,7 +20,8 @@ location_graph tree_of(const std::vector<double>& w, const std::vector<arc>& arc
 }
 
 // The median's value is the plain sum of distances from the first node found, whatever the
-// weights; the location is the weighted median.
+// weights; the location is the weighted median. The village tree of the examples (value 11, not
+// the weighted 13) and the path of three for the centers are shown by tests/cli/trees.t.
 TEST(tree_median, cases_by_hand) {
   double value = -1;
   EXPECT_EQ(tree_median(tree_of({7}, {}), value), (graphpointset{{0, 0, 0}}));
@@ -37,12 +38,6 @@ TEST(tree_median, cases_by_hand) {
   EXPECT_EQ(tree_median(tree_of({1, 1, 9, 2}, {{2, 0, 2}, {1, 2, 3}, {2, 3, 4}}), value),
             (graphpointset{{2, 2, 0}}));
   EXPECT_EQ(value, 9.0);
-  // The village tree of the examples: hub (2), north, south, east (3), far: the leaves north,
-  // south and far fold, hub then holds 4 = W/2 and its remaining edge leads to east. Weighted,
-  // hub would score 2 + 3 + 3 + 5 = 13; the value is the unweighted 2 + 3 + 1 + 5 = 11.
-  location_graph village = tree_of({2, 1, 1, 3, 1}, {{0, 1, 2}, {0, 2, 3}, {0, 3, 1}, {3, 4, 4}});
-  EXPECT_EQ(tree_median(village, value), (graphpointset{{0, 0, 0}, {3, 3, 0}}));
-  EXPECT_EQ(value, 11.0);
   // all weights 0: the first leaf stops at once, with the other end of its edge
   EXPECT_EQ(tree_median(tree_of({0, 0, 0}, {{0, 1, 1}, {1, 2, 1}}), value),
             (graphpointset{{0, 0, 0}, {1, 1, 0}}));
@@ -88,12 +83,6 @@ TEST(tree_v1_center, cases_by_hand) {
   EXPECT_EQ(value, 1.5);
   EXPECT_EQ(loc_tree_v1_center(four, value), (graphpointset{{2, 2, 0}, {1, 1, 0}}));
   EXPECT_EQ(value, 1.0);
-  // path of three: the walk stops on node 1 and says so in edge form
-  location_graph three = tree_of({1, 1, 1}, {{0, 1}, {1, 2}});
-  EXPECT_EQ(tree_v1_center(three, value), (graphpointset{{1, 0, 0}}));
-  EXPECT_EQ(value, 1.0);
-  EXPECT_EQ(loc_tree_v1_center(three, value), (graphpointset{{1, 1, 0}}));
-  EXPECT_EQ(value, 1.0);
   // lengths 1, 3: v1 = 2, v2 = 0 at 4, the middle 2/3 of the way from 2 to 1; the node rule
   // takes 1 and adds t to z instead of reading the true eccentricity 3
   location_graph long_end = tree_of({1, 1, 1}, {{0, 1, 1}, {1, 2, 3}});
@@ -109,7 +98,6 @@ TEST(tree_v1_center, cases_by_hand) {
   // one node: no path to halve
   EXPECT_EQ(tree_v1_center(tree_of({1}, {}), value), (graphpointset{{0, 0, 0}}));
   EXPECT_EQ(value, 0.0);
-  EXPECT_REPORT(tree_v1_center(tree_of({2}, {}), value), 2202, "All weights must be equal to 1");
   EXPECT_REPORT(loc_tree_v1_center(tree_of({1, 1.5}, {{0, 1}}), value), 2202,
                 "All weights must be equal to 1");
   value = 42;
