@@ -64,12 +64,6 @@ TEST(graph_file, results_and_messages) {
                       "graph::write() cannot open file /nonexistent/dir/g.gw");
 }
 
-}  // namespace
-}  // namespace mero
-
-namespace mero {
-namespace {
-
 // The form without the kernel's report gives the line of the fault instead, counted from where
 // the stream stood when reading began.
 TEST(graph_file, fault_line_instead_of_report) {
