@@ -6,27 +6,13 @@ in l3.
 
   $ export tmp=$PWD T=triangle.loc
   $ printf 'begin {location} [2,1]\n0 0 1 [o]\n4 0 1 [x]\n0 3 1 [y]\nend\n' > $T
-  $ $MERO -a L_l2_sum_M3 -l $T --output=nowindowed
-  begin {result}
-  begin {classification}
-  1L|P|.|l2|sum: M3
-  end {classification}
-  begin {objective value} 
-  2.4
-  end {objective value}
-  begin {polygonlist}
-  begin {polygon}
-  4 0 
-  0 3 
-  end {polygon}
-  end {polygonlist}
-  end {result}
-
-From here on each run shows the classification, value and points of its report on one line.
-
-  $ set -o pipefail
   $ report_blocks='result\|classification\|objective value\|polygonlist\|polygon'
   $ source $TESTDIR/planar_report.sh
+
+Each run shows the classification, value and points of its report on one line.
+
+  $ solve -a L_l2_sum_M3 -l $T
+  1L|P|.|l2|sum: M3 2.4 4 0  0 3 
 
 Sums: the line through two locations. In l1 the side y = 0 and the hypotenuse both leave the
 third location 3 away, and the first pair stays.

@@ -5,24 +5,13 @@ $tmp, which starts empty here.
 
   $ export tmp=$PWD R=rectangle.loc
   $ printf 'begin {location} [2,1]\n0 0 1 [sw]\n4 0 1 [se]\n4 2 1 [ne]\n0 2 1 [nw]\nend\n' > $R
-  $ $MERO -a l2_sum -l $R --output=nowindowed
-  begin {result}
-  begin {classification}
-  1|P|.|l2 with eps: 1.000E-03|sum
-  end {classification}
-  begin {objective value} 
-  8.94427
-  end {objective value}
-  begin {polygonlist}
-  2 1 
-  end {polygonlist}
-  end {result}
-
-From here on each run shows the classification, value and points of its report on one line (a
-polygon after its "begin {polygon}").
-
-  $ set -o pipefail
   $ source $TESTDIR/planar_report.sh
+
+Each run shows the classification, value and points of its report on one line (a polygon after
+its "begin {polygon}").
+
+  $ solve -a l2_sum -l $R
+  1|P|.|l2 with eps: 1.000E-03|sum 8.94427 2 1 
   $ solve -a l2sqr_sum -l $R
   1|P|.|l2sqr|sum 20 2 1 
   $ solve -a lp_sum -p 3 -l $R
