@@ -55,17 +55,7 @@ double visibility_path(const point& a, const point& p, const std::vector<point>&
 // Strictly inside the polygon and more than 1e-7 from every edge, so that samples along an edge
 // do not count whatever the rounding.
 bool deep_inside(const std::vector<point>& v, const point& q) {
-  if (!polygon(v).inside(q)) return false;
-  for (std::size_t k = 0; k < v.size(); ++k) {
-    const point& a = v[k];
-    const point& b = v[(k + 1) % v.size()];
-    const double dx = b.xcoord() - a.xcoord(), dy = b.ycoord() - a.ycoord();
-    double t =
-        ((q.xcoord() - a.xcoord()) * dx + (q.ycoord() - a.ycoord()) * dy) / (dx * dx + dy * dy);
-    t = std::clamp(t, 0.0, 1.0);
-    if (q.distance(point(a.xcoord() + t * dx, a.ycoord() + t * dy)) <= 1e-7) return false;
-  }
-  return true;
+  return polygon(v).inside(q) && testing::off_ring(v, q) > 1e-7;
 }
 
 TEST(BarrierDistance, CircleByHand) {

@@ -42,11 +42,8 @@ std::vector<point> feasible_samples(const std::vector<point>& region, bool keep_
       const point q(i, j);
       if (keep_out ? !shape.inside(q) : !shape.outside(q)) out.push_back(q);
     }
-  for (std::size_t k = 0; k < region.size(); ++k) {
-    const point& a = region[k];
-    const point& b = region[(k + 1) % region.size()];
-    for (int s = 0; s <= 3000; ++s) out.push_back(a + (b - a) * (s / 3000.0));
-  }
+  const std::vector<point> edges = testing::ring_samples(region, 3000);
+  out.insert(out.end(), edges.begin(), edges.end());
   return out;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
-// Random forbidden regions shared by the restricted solver tests.
+// Random forbidden regions and samples of their boundaries, shared by the restricted solver tests.
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -25,6 +26,33 @@ inline std::vector<point> convex_around(std::mt19937& gen, const point& c, doubl
     v = convex_hull(v);
     if (v.size() >= 3 && polygon(v).inside(c)) return v;
   }
+}
+
+// n + 1 points on each edge of the ring, its ends included.
+inline std::vector<point> ring_samples(const std::vector<point>& ring, int n) {
+  std::vector<point> out;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const point& a = ring[k];
+    const point& b = ring[(k + 1) % ring.size()];
+    for (int s = 0; s <= n; ++s) out.push_back(a + (b - a) * (static_cast<double>(s) / n));
+  }
+  return out;
+}
+
+// Distance of q from the ring's edges (0 when q is on the boundary).
+inline double off_ring(const std::vector<point>& ring, const point& q) {
+  double best = 1e50;
+  for (std::size_t k = 0; k < ring.size(); ++k) {
+    const point& a = ring[k];
+    const point& b = ring[(k + 1) % ring.size()];
+    const double dx = b.xcoord() - a.xcoord(), dy = b.ycoord() - a.ycoord();
+    double t = ((q.xcoord() - a.xcoord()) * dx + (q.ycoord() - a.ycoord()) * dy) /
+               (dx * dx + dy * dy);
+    t = std::clamp(t, 0.0, 1.0);
+    best = std::min(best, std::hypot(q.xcoord() - a.xcoord() - t * dx,
+                                     q.ycoord() - a.ycoord() - t * dy));
+  }
+  return best;
 }
 
 }  // namespace mero::testing
