@@ -55,7 +55,7 @@ TEST(convex_polygon_intersection, agrees_with_membership_on_a_grid) {
   }
 }
 
-TEST(convex_polygon_intersection, touching_and_disjoint) {
+TEST(convex_polygon_intersection, touching_disjoint_and_clipped_by_hand) {
   const std::vector<point> unit{point(0, 0), point(1, 0), point(1, 1), point(0, 1)};
   const std::vector<point> right{point(1, 0), point(2, 0), point(2, 1), point(1, 1)};
   const std::vector<point> corner{point(1, 1), point(2, 1), point(2, 2), point(1, 2)};
@@ -67,9 +67,6 @@ TEST(convex_polygon_intersection, touching_and_disjoint) {
   // A point inside a triangle: the polygons change roles.
   EXPECT_EQ(convex_polygon_intersection(unit, {point(0.5, 0.5)}),
             std::vector<point>{point(0.5, 0.5)});
-}
-
-TEST(convex_polygon_intersection, clip_labels_the_new_edge) {
   labeled_convex_polygon square{{point(0, 0), point(2, 0), point(2, 2), point(0, 2)}, {0, 1, 2, 3}};
   // Cut off x > 1: the new right edge from (1, 0) to (1, 2) carries label 9.
   const labeled_convex_polygon cut = clip(square, {1.0, 0.0, 1.0}, 9);

@@ -66,23 +66,20 @@ TEST(segment_crossings, pairs_agree_with_all_pairs_of_an_exact_test) {
   }
 }
 
-TEST(segment_crossings, overlap_gives_the_ends_of_the_common_part) {
+TEST(segment_crossings, overlap_ends_filter_and_distinct_points_by_hand) {
   // Two rays along the x-axis pointing at each other: they overlap between their starts.
   const std::vector<segment> s{segment(point(0, 0), point(10, 0)),
                                segment(point(2, 0), point(-8, 0))};
-  const std::vector<segment_crossing> c = segment_crossings(s);
-  ASSERT_EQ(c.size(), 2u);
-  EXPECT_EQ(c[0].where, point(0, 0));
-  EXPECT_EQ(c[1].where, point(2, 0));
-}
-
-TEST(segment_crossings, filter_and_distinct_points) {
+  const std::vector<segment_crossing> overlap = segment_crossings(s);
+  ASSERT_EQ(overlap.size(), 2u);
+  EXPECT_EQ(overlap[0].where, point(0, 0));
+  EXPECT_EQ(overlap[1].where, point(2, 0));
   // Three segments through (1, 1); the first two come from the same owner and are not tested.
-  const std::vector<segment> s{segment(point(0, 0), point(2, 2)), segment(point(0, 2), point(2, 0)),
+  const std::vector<segment> t{segment(point(0, 0), point(2, 2)), segment(point(0, 2), point(2, 0)),
                                segment(point(1, 0), point(1, 3)),
                                segment(point(5, 5), point(6, 5))};
   const auto c =
-      segment_crossings(s, [](std::size_t i, std::size_t j) { return !(i == 0 && j == 1); });
+      segment_crossings(t, [](std::size_t i, std::size_t j) { return !(i == 0 && j == 1); });
   ASSERT_EQ(c.size(), 2u);
   EXPECT_EQ(c[0].first, 0u);
   EXPECT_EQ(c[0].second, 2u);
