@@ -27,7 +27,6 @@ Rectilinear sum. Axis by axis, the candidates are the location coordinates: on t
 
 From here on each run shows the classification, value and points of its report on one line.
 
-  $ set -o pipefail
   $ source $TESTDIR/planar_report.sh
 
 Squared Euclidean sum: the normal equations [[5, -1], [-1, 7]] x = (8, 32) and y = (6, 6) give

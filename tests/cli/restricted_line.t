@@ -3,7 +3,6 @@ is the polygon. Three locations (0,0), (10,0), (5,1) of weight 1: unrestricted, 
 the line on y = 0 at value 1 (the distance of (5,1)).
 
   $ export tmp=$PWD
-  $ set -o pipefail
   $ report_blocks='result\|classification\|objective value\|polygonlist\|polygon'
   $ source $TESTDIR/planar_report.sh
   $ printf 'begin {location} [2,1]\n0 0 1\n10 0 1\n5 1 1\nend {location}\n' > three.loc

@@ -2,7 +2,6 @@ Restricted single-facility problems (chain R): the -r file lists forbidden regio
 solver keeps the unrestricted optimum when it is allowed and otherwise looks on the boundary.
 
   $ export tmp=$PWD
-  $ set -o pipefail
   $ source $TESTDIR/planar_report.sh
 
 Two locations A = (1, 2) and B = (3, 2) of weight 1, and the square [0, 4]^2 forbidden. Every
