@@ -1,9 +1,10 @@
 // Barrier distances against hand values and against a shortest path on a visibility graph
 // computed here (for convex barriers the two agree), and the barrier median against the free
-// optimum and an independent recomputation of its value.
+// optimum, an independent recomputation of its value, and a grid.
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <random>
 
@@ -168,6 +169,15 @@ TEST(BarrierMedian, BlockedOptimumGivesAFeasiblePointOfItsValue) {
   EXPECT_LT(value, 1e10);
   EXPECT_GE(value, z - 1e-6);
   EXPECT_NEAR(value, independent_value(f, v, q), 1e-6 * value);
+  // The heuristic against a grid of step 0.25 over [-5, 15] x [-10, 10]: logged, not asserted.
+  const polygon_barrier b(v);
+  double grid = 1e300;
+  for (int i = 0; i <= 80; ++i)
+    for (int j = 0; j <= 80; ++j) {
+      const point g(-5 + 0.25 * i, -10 + 0.25 * j);
+      if (!polygon(v).inside(g)) grid = std::min(grid, b.barrier_objective(f, g));
+    }
+  std::printf("barrier median: heuristic %.6f, grid minimum %.6f, free %.6f\n", value, grid, z);
 }
 
 TEST(BarrierMedian, ForbiddenRegionBecomesItsBarrier) {
