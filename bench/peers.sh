@@ -5,10 +5,12 @@
 #   loc_undir_center        least row maximum               (OR-Library pmed1 to pmed40)
 #   abs_undir_center        against the same with the absolute center edge by edge (pmed1-40)
 #   l2_v1_max               against CGAL's Min_circle_2     (10^5 and 10^6 random points)
-# Each row prints both times, the ratio peer / mero (above 1: mero is faster) and both values;
+# Each row prints both times, the ratio peer / mero (above 1: mero is faster) and both values
+# (UFL: each program's fastest of up to five runs while its runs take under a second together);
 # values that differ beyond the six digits of mero's report make the script fail.
 # Installs its peers from Debian when they are missing (coinor-cbc, python3-scipy, libcgal-dev).
-# Usage: bench/peers.sh [ufl|pmed|circle]...   (default: all three)
+# Usage: bench/peers.sh [ufl|pmed|circle]...   (default: all three; UFL_INSTANCES=names picks
+#        OR-Library uncap instances)
 source "$(dirname "$0")/lib/common.sh"
 orlib="${ORLIB:-$repo/../shared/benchmarks/orlib}"
 peers="$repo/bench/peers"
@@ -29,6 +31,19 @@ seconds() {  # command...: runs it, its output to $work/out, prints the wall sec
   local start=$EPOCHREALTIME
   "$@" >"$work/out" 2>/dev/null
   awk -v a="$start" -v b="$EPOCHREALTIME" 'BEGIN { printf "%.3f", b - a }'
+}
+
+fastest() {  # command...: as seconds, but runs it up to five times while the runs together take
+             # under a second and prints the fastest: a run of a few milliseconds on a loaded
+             # machine is mostly the wait for a core
+  local best="" total=0 t
+  for _ in 1 2 3 4 5; do
+    t=$(seconds "$@")
+    best=$(awk -v a="$best" -v b="$t" 'BEGIN { print (a == "" || b + 0 < a + 0) ? b : a }')
+    total=$(awk -v a="$total" -v b="$t" 'BEGIN { print a + b }')
+    awk -v t="$total" 'BEGIN { exit !(t >= 1) }' && break
+  done
+  echo "$best"
 }
 
 report_value() {  # the objective value of a mero report in $work/out
@@ -53,14 +68,14 @@ header() { printf '%-24s %9s %9s %7s %18s %18s\n' instance "mero s" "peer s" rat
 ufl() {
   echo "== UFL_Dualoc against CBC on the strong MIP"
   header
-  for name in cap71 cap72 cap73 cap74 cap101 cap102 cap103 cap104 cap131 cap132 cap133 cap134 \
-              capa capb capc; do
+  for name in ${UFL_INSTANCES:-cap71 cap72 cap73 cap74 cap101 cap102 cap103 cap104 cap131 cap132
+                              cap133 cap134 capa capb capc}; do
     "$repo/scripts/orlib-ufl-to-mero" "$orlib/uncap/$name.txt" >"$work/$name.dat"
     $python "$peers/ufl_mip.py" "$orlib/uncap/$name.txt" >"$work/$name.lp"
     local mt pt mv pv
-    mt=$(seconds "$mero" -a UFL_Dualoc -d "$work/$name.dat" --output=nowindowed)
+    mt=$(fastest "$mero" -a UFL_Dualoc -d "$work/$name.dat" --output=nowindowed)
     mv=$(report_value)
-    pt=$(seconds cbc "$work/$name.lp" solve quit)
+    pt=$(fastest cbc "$work/$name.lp" solve quit)
     pv=$(awk '/^Objective value:/ { print $3; exit }' "$work/out")
     row "$name" "$mt" "$pt" "$mv" "$pv"
   done

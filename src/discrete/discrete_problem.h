@@ -45,10 +45,11 @@ class discrete_problem {
   // a tie going to the Stingy start. O(n^2 m) per exchange.
   double UFL_Interchange();
   // Exact: dual ascent with dual adjustment (Erlenkotter 1978) for a lower bound and a primal
-  // solution, then depth-first branch and bound on the opening variables, closing first. Worst
-  // case exponential in n; each ascent is O(n m) per round of the customers. Costs and fixed
-  // costs must lie in [0, 1e50] (3109); "No feasible solution found!" (3101) if no branch
-  // yields a solution.
+  // solution, then depth-first branch and bound on the opening variables, closing first; the
+  // Interchange solution and the best solution met prune nodes that cannot beat them. Worst
+  // case exponential in n; each ascent is O(n m) per round of the customers, an adjustment
+  // round visits only the customers its change can free. Costs and fixed costs must lie in
+  // [0, 1e50] (3109); "No feasible solution found!" (3101) if no branch yields a solution.
   double UFL_Dualoc();
 };
 

@@ -82,8 +82,8 @@ struct customer_set {
   }
 };
 
-// One entry of a column's list: a customer whose dual reaches the column's cost within the
-// tolerance, with that cost.
+// One entry of a column's list of payers: a customer whose dual lies above the column's cost,
+// with that cost.
 struct reach {
   int customer;
   double cost;
