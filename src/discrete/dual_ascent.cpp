@@ -552,14 +552,17 @@ void check_dualoc_range(const cost_table& t) {
 }
 
 // The whole search: the root's dual ascent, then both branches below it, closing first. Returns
-// whether either branch yields a solution; `best` receives the better one.
-bool search(dual_ascent_solver& solver, node_state& best) {
+// whether either branch yields a solution; `best` receives the better one. `known()` gives the
+// value of a solution known beforehand; it is only asked for when the root leaves a gap.
+template <class Known>
+bool search(dual_ascent_solver& solver, node_state& best, Known known) {
   const cost_table& t = solver.C;
   node_problem root{t.f, std::vector<fixing>(t.n, fixing::free), 0.0};
   node_state s{std::vector<double>(t.m, 0.0), std::vector<double>(t.n, 0.0),
                std::vector<int>(t.m, 0), 0.0};
   solver.dual_ascent(root, s);
   solver.best_found = s.z;
+  if (solver.branch_variable(root, s) >= 0) solver.known = known();
   node_state closing = s;
   const bool closed_ok = solver.branch(root, closing, true);
   const bool opened_ok = solver.branch(root, s, false);
@@ -581,28 +584,29 @@ double value_of(const cost_table& t, const std::vector<int>& open) {
 
 }  // namespace
 
-// The search is first run with the exchange heuristic's solution as a known value. Below a
-// pruned node every leaf costs at least the node's bound less the slack the dual may exceed (up
-// to the tolerance at each open facility), so with the margin (n + 2) times the tolerance each
-// leaf cut off by the known value or by a solution met on the way costs more than that solution
-// plus the tolerance. If the result is no worse than all of them to the tolerance, no leaf cut
-// off this way could have won the comparisons on the way up, and the result is the one of the
-// search that prunes against the parent's value alone. Otherwise, which takes a search that does
-// not reach the best solution it has seen, the search runs again pruning only against the
-// parent's value and the best solution met, without the known value.
+// The search is first run with the exchange heuristic's solution as a known value (asked for
+// only when the root leaves a gap). Below a pruned node every leaf costs at least the node's
+// bound less the slack the dual may exceed (up to the tolerance at each open facility), so with
+// the margin (n + 2) times the tolerance each leaf cut off by the known value or by a solution
+// met on the way costs more than that solution plus the tolerance. If the result is no worse
+// than all of them to the tolerance, no leaf cut off this way could have won the comparisons on
+// the way up, and the result is the one of the search that prunes against the parent's value
+// alone. Otherwise, which takes a search that does not reach the best solution it has seen, the
+// search runs again pruning only against the parent's value and the best solution met, without
+// the known value.
 double discrete_problem::UFL_Dualoc() {
   const cost_table t = make_cost_table(*this);
   check_dualoc_range(t);
   dual_ascent_solver solver(t);
-  const open_solution start = interchange_solution(t, supply_is_demand);
-  solver.known = value_of(t, start.open);
   solver.margin = (t.n + 2) * tolerance;
   solver.stop_early = true;
   node_state best;
-  bool ok = search(solver, best);
+  bool ok = search(solver, best, [&] {
+    return value_of(t, interchange_solution(t, supply_is_demand).open);
+  });
   if (!ok || best.z > std::min(solver.known, solver.best_found) + tolerance) {
     dual_ascent_solver plain(t);
-    ok = search(plain, best);
+    ok = search(plain, best, [] { return infinite_cost; });
   }
   if (!ok) report_error(discrete_messages::no_solution);
 
