@@ -6,7 +6,7 @@
 #   abs_undir_center        against the same with the absolute center edge by edge (pmed1-40)
 #   l2_v1_max               against CGAL's Min_circle_2     (10^5 and 10^6 random points)
 # Each row prints both times, the ratio peer / mero (above 1: mero is faster) and both values
-# (UFL: each program's fastest of up to five runs while its runs take under a second together);
+# (UFL: each program's fastest of up to twenty runs while its runs take under a second together);
 # values that differ beyond the six digits of mero's report make the script fail.
 # Installs its peers from Debian when they are missing (coinor-cbc, python3-scipy, libcgal-dev).
 # Usage: bench/peers.sh [ufl|pmed|circle]...   (default: all three; UFL_INSTANCES=names picks
@@ -33,11 +33,11 @@ seconds() {  # command...: runs it, its output to $work/out, prints the wall sec
   awk -v a="$start" -v b="$EPOCHREALTIME" 'BEGIN { printf "%.3f", b - a }'
 }
 
-fastest() {  # command...: as seconds, but runs it up to five times while the runs together take
-             # under a second and prints the fastest: a run of a few milliseconds on a loaded
-             # machine is mostly the wait for a core
+fastest() {  # command...: as seconds, but runs it up to twenty times while the runs together
+             # take under a second and prints the fastest: a run of a few milliseconds on a
+             # loaded machine is mostly the wait for a core
   local best="" total=0 t
-  for _ in 1 2 3 4 5; do
+  for _ in $(seq 20); do
     t=$(seconds "$@")
     best=$(awk -v a="$best" -v b="$t" 'BEGIN { print (a == "" || b + 0 < a + 0) ? b : a }')
     total=$(awk -v a="$total" -v b="$t" 'BEGIN { print a + b }')
