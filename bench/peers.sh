@@ -30,7 +30,7 @@ fi
 seconds() {  # command...: runs it, its output to $work/out, prints the wall seconds
   local start=$EPOCHREALTIME
   "$@" >"$work/out" 2>/dev/null
-  awk -v a="$start" -v b="$EPOCHREALTIME" 'BEGIN { printf "%.3f", b - a }'
+  awk -v a="$start" -v b="$EPOCHREALTIME" 'BEGIN { printf "%.4f", b - a }'
 }
 
 fastest() {  # command...: as seconds, but runs it up to twenty times while the runs together
