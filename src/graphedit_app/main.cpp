@@ -1,4 +1,6 @@
-// The graph editor program: `graphedit --convert IN OUT [--weight=KEY,...] [--length=KEY]` converts between the editor's
+// The graph editor program: `graphedit [--press ENTRY]... [FILE]` opens the editor window on a GE,
+// GML or native graph file (and presses the menu entries, "&Graph>&Test>planar", when it is up);
+// `graphedit --convert IN OUT [--weight=KEY,...] [--length=KEY]` converts between the editor's
 // files and mero's graph file without a window.
 
 #include <string>
@@ -6,7 +8,9 @@
 
 #include "graphedit/graph_convert.h"
 #include "graphedit/graphedit_messages.h"
+#include "graphedit_app/graph_editor.h"
 #include "kernel/reporters.h"
+#include "kernel/window/windowed_faces.h"
 
 namespace {
 
@@ -51,6 +55,20 @@ int convert(const std::vector<std::string>& args) {
 int main(int argc, char** argv) {
   std::vector<std::string> args(argv + 1, argv + argc);
   if (!args.empty() && args[0] == "--convert") return convert(args);
-  mero::windowed_mode = false;
-  mero::report_error(msg::usage);
+  mero::install_windowed_faces();
+  mero::graph_editor editor;
+  std::string file;
+  for (std::size_t k = 0; k < args.size(); ++k) {
+    if (args[k] == "--press" && k + 1 < args.size()) {
+      editor.press_later(args[++k]);
+    } else if (args[k].rfind("--", 0) == 0 || !file.empty()) {
+      mero::windowed_mode = false;
+      mero::report_error(msg::bad_option, {args[k]});
+    } else {
+      file = args[k];
+    }
+  }
+  if (!file.empty()) editor.load(file);
+  editor.run();
+  return 0;
 }
