@@ -5,6 +5,8 @@
 #include <limits>
 #include <vector>
 
+#include "kernel/message.h"
+
 namespace mero {
 
 color nearest_color(int rgb) {
@@ -35,15 +37,9 @@ std::string node_label_text(const ge_graph& x, node v, int index) {
       return a.label;
     case label_kind::data:
       return a.data;
-    case label_kind::index: {
-      char text[64];
-      // The format is the user's; only one integer conversion is accepted.
-      const std::string& f = x.settings.node_index_format;
-      bool plain = f.find('%') != std::string::npos && f.find('%', f.find('%') + 1) == std::string::npos &&
-                   f.find("%d") != std::string::npos;
-      std::snprintf(text, sizeof text, plain ? f.c_str() : "%d", index);
-      return text;
-    }
+    case label_kind::index:
+      // As in the PostScript drawing: the user's format filled with the place from 1.
+      return format_message(x.settings.node_index_format, {index});
   }
   return "";
 }
@@ -108,7 +104,7 @@ void draw_graph(window& w, const ge_graph& x, const drawing_marks& marks) {
       w.draw_ctext((p.xcoord() + q.xcoord()) / 2, (p.ycoord() + q.ycoord()) / 2, a.label);
     }
   }
-  int index = 0;
+  int index = 1;
   for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++index) {
     const ge_node& a = x.g.inf(v);
     double px = a.position.xcoord(), py = a.position.ycoord();

@@ -22,7 +22,8 @@ color nearest_color(int rgb);
 // nodes as ovals or rectangles of their radii with their labels.
 void draw_graph(window& w, const ge_graph& x, const drawing_marks& marks = {});
 
-// The label a node shows: its text, its index in list order from 0, or its data.
+// The label a node shows: its text, its place in list order (from 1, in the graph's node index
+// format), or its data.
 std::string node_label_text(const ge_graph& x, node v, int index);
 
 }  // namespace mero

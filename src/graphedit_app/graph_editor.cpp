@@ -257,7 +257,7 @@ void graph_editor::build_menus() {
       int count = repair(x_.g);
       marks_ = {};
       redraw();
-      tell("Make " + name, "Make " + name + ": " + std::to_string(count) + " edges " +
+      tell("Make " + name, std::to_string(count) + " edges " +
                                (name == "simple" ? "deleted." : "added."));
     };
   };
@@ -575,10 +575,26 @@ void graph_editor::build_menus() {
 
 // ---- panels ----
 
+namespace {
+
+// The text behind its leading format marks, such as "\\bf" and "\\red".
+std::string plain_text(const std::string& text) {
+  std::size_t at = 0;
+  while (at < text.size() && text[at] == '\\') {
+    std::size_t end = text.find(' ', at);
+    if (end == std::string::npos) return text;
+    at = end + 1;
+  }
+  return text.substr(at);
+}
+
+}  // namespace
+
 void graph_editor::tell(const std::string& title, const std::string& text) {
   if (scripted_) std::cout << title << ": " << text << std::endl;
   tk_window panel(0, 0, "GraphEdit: " + title);
-  std::istringstream lines(text);
+  // The panel shows the text without its leading format marks ("\\bf\\red ...").
+  std::istringstream lines(plain_text(text));
   for (std::string line; std::getline(lines, line);) panel.text_item(line);
   panel.button("ok");
   panel.display(win_);
@@ -588,7 +604,7 @@ void graph_editor::tell(const std::string& title, const std::string& text) {
 bool graph_editor::ask(const std::string& title, const std::string& text) {
   if (scripted_) std::cout << title << ": " << text << std::endl;
   tk_window panel(0, 0, "GraphEdit: " + title);
-  panel.text_item(text);
+  panel.text_item(plain_text(text));
   panel.button("no", 0);
   panel.button("yes", 1);
   panel.display(win_);
@@ -625,19 +641,23 @@ void graph_editor::redraw() {
                                    color::orange, color::violet};
     std::vector<node> nodes = x_.g.all_nodes();
     auto faces = faces_by_angle(x_);
+    std::vector<std::vector<point>> corners(faces.size());
+    std::vector<double> areas(faces.size(), 0);
+    std::size_t outer = 0;
     for (std::size_t f = 0; f < faces.size(); ++f) {
-      std::vector<point> corners;
-      for (int k : faces[f]) corners.push_back(x_.g.inf(nodes[static_cast<std::size_t>(k)]).position);
-      // The outer face runs clockwise; it stays white.
-      double area = 0;
-      for (std::size_t k = 0; k < corners.size(); ++k) {
-        const point& p = corners[k];
-        const point& q = corners[(k + 1) % corners.size()];
-        area += p.xcoord() * q.ycoord() - q.xcoord() * p.ycoord();
+      for (int k : faces[f]) corners[f].push_back(x_.g.inf(nodes[static_cast<std::size_t>(k)]).position);
+      for (std::size_t k = 0; k < corners[f].size(); ++k) {
+        const point& p = corners[f][k];
+        const point& q = corners[f][(k + 1) % corners[f].size()];
+        areas[f] += p.xcoord() * q.ycoord() - q.xcoord() * p.ycoord();
       }
-      if (corners.size() < 3 || area >= 0) continue;
+      if (std::abs(areas[f]) > std::abs(areas[outer])) outer = f;
+    }
+    // In a plane drawing the outer face encloses all others; it stays white.
+    for (std::size_t f = 0; f < faces.size(); ++f) {
+      if (f == outer || corners[f].size() < 3) continue;
       win_.set_color(shades[f % 6]);
-      win_.draw_filled_polygon(corners);
+      win_.draw_filled_polygon(corners[f]);
     }
   }
   draw_graph(win_, x_, marks_);
@@ -1047,10 +1067,10 @@ void graph_editor::show_faces() {
   if (!need_graph()) return;
   auto faces = faces_by_angle(x_);
   std::ostringstream text;
-  text << faces.size() << " faces of the drawing, by the nodes around them:";
+  text << faces.size() << " faces of the drawing, by the nodes (from 1) around them:";
   for (const auto& f : faces) {
     text << "\n";
-    for (std::size_t k = 0; k < f.size(); ++k) text << (k ? " " : "") << f[k];
+    for (std::size_t k = 0; k < f.size(); ++k) text << (k ? " " : "") << f[k] + 1;
   }
   tell("Faces", text.str());
 }

@@ -34,7 +34,7 @@ Without the edge 4-5 the graph is planar, and "Make biconnected" has nothing to 
   $ p=$(panel Test) && xdotool windowfocus --sync $p key Return
   $ p=$(panel 'Make biconnected') && xdotool windowfocus --sync $p key Return; wait $!; cat out.txt
   Test: The graph is planar.
-  Make biconnected: Make biconnected: 0 edges added.
+  Make biconnected: 0 edges added.
 
 With the mouse on an empty editor: the world runs from 0 to 100 over the 800 pixels of the
 drawing area (8 pixels a unit), y upwards from the bottom of its 600 pixels, which start 50
