@@ -72,7 +72,22 @@ Button 3 on the second node deletes it with its edge; saved again, one node is l
   $ sed -n '4p;6p' graph.ge
   1
   0
+
   $ kill $!
+
+"undo" after "Delete > all edges" brings the ten edges of K5 back (saved as GE), "redo" takes them
+away again (saved as GML).
+
+  $ $GRAPHEDIT --press 'Graph>Delete>all edges' --press undo --press 'File>Save GE-Graph ...' \
+  >   --press redo --press 'File>Save GML-Graph ...' --press done k5.gml > out.txt 2>&1 &
+  $ p=$(panel 'Save GE-Graph') && xdotool windowfocus --sync $p key Return
+  $ p=$(panel 'Save GML-Graph') && xdotool windowfocus --sync $p key Return; wait $!; echo "[$?]"
+  [0]
+  $ sed -n '4p;10p' graph.ge; grep -c 'edge \[' graph.gml; grep -c 'node \[' graph.gml
+  5
+  10
+  0
+  5
 
 Options kept in .grapheditrc: the zoom factor set in "Zooming ..." (Tab selects the entry's text), and a printer command that
 does not exist, so that "&Print ..." saves graph.ps and says so.
