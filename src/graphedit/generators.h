@@ -5,12 +5,9 @@
 // stand once, from the earlier node to the later one unless said otherwise.
 
 #include "graphedit/ge_graph.h"
+#include "graphedit/simple_layouts.h"
 
 namespace mero {
-
-struct layout_box {
-  double xmin = 0, ymin = 0, xmax = 100, ymax = 100;
-};
 
 // Every pair of the n nodes joined once; the nodes on a circle.
 void complete_graph(ge_graph& x, int n, const layout_box& box);

@@ -256,14 +256,8 @@ int make_bidirected(graph& g) {
 void fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
   std::vector<node> nodes = x.g.all_nodes();
   if (nodes.empty()) return;
-  double lx = 1e300, ly = 1e300, hx = -1e300, hy = -1e300;
-  for (node v : nodes) {
-    const point& p = x.g.inf(v).position;
-    lx = std::min(lx, p.xcoord());
-    hx = std::max(hx, p.xcoord());
-    ly = std::min(ly, p.ycoord());
-    hy = std::max(hy, p.ycoord());
-  }
+  layout_box from = position_box(x);
+  double lx = from.xmin, ly = from.ymin, hx = from.xmax, hy = from.ymax;
   double w = hx - lx, h = hy - ly;
   double scale = std::min(w > 0 ? (xmax - xmin) / w : 1e300, h > 0 ? (ymax - ymin) / h : 1e300);
   if (scale > 1e299) scale = 1;

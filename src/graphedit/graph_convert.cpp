@@ -248,14 +248,8 @@ ge_graph network_to_editor(const location_graph& g, const facilities& places) {
     return x;
   }
   // The world box of the drawing, with node sizes that fit it.
-  double xmin = 1e300, ymin = 1e300, xmax = -1e300, ymax = -1e300;
-  for (node v : nodes) {
-    const point& p = x.g.inf(v).position;
-    xmin = std::min(xmin, p.xcoord());
-    xmax = std::max(xmax, p.xcoord());
-    ymin = std::min(ymin, p.ycoord());
-    ymax = std::max(ymax, p.ycoord());
-  }
+  layout_box box = position_box(x);
+  double xmin = box.xmin, ymin = box.ymin, xmax = box.xmax, ymax = box.ymax;
   double extent = std::max(xmax - xmin, ymax - ymin);
   double radius = extent > 0 ? extent / 25 : 10;
   for (node v : nodes) x.g.inf(v).radius1 = x.g.inf(v).radius2 = radius;

@@ -1,5 +1,6 @@
 #include "graphedit/simple_layouts.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <random>
@@ -30,6 +31,19 @@ void random_layout(ge_graph& x, double xmin, double ymin, double xmax, double ym
     x.g.inf(v).position = point(px, up(random));
   }
   remove_bends(x);
+}
+
+layout_box position_box(const ge_graph& x) {
+  if (x.g.first_node() == nullptr) return {};
+  layout_box box{1e300, 1e300, -1e300, -1e300};
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v)) {
+    const point& p = x.g.inf(v).position;
+    box.xmin = std::min(box.xmin, p.xcoord());
+    box.xmax = std::max(box.xmax, p.xcoord());
+    box.ymin = std::min(box.ymin, p.ycoord());
+    box.ymax = std::max(box.ymax, p.ycoord());
+  }
+  return box;
 }
 
 void remove_bends(ge_graph& x) {

@@ -6,6 +6,14 @@
 
 namespace mero {
 
+// A box of the drawing plane, lower left to upper right.
+struct layout_box {
+  double xmin = 0, ymin = 0, xmax = 100, ymax = 100;
+};
+
+// The smallest box that holds every node's position; the default box for a graph without nodes.
+layout_box position_box(const ge_graph& x);
+
 // Node k of n (list order) at angle 90 - 360 k / n degrees on a circle of the given radius about
 // centre: the first node on top, the others clockwise. A single node sits at the centre.
 void circular_layout(ge_graph& x, point centre, double radius);
