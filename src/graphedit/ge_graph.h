@@ -3,6 +3,7 @@
 // "string" information of the native file) and their drawing attributes, with the settings of
 // the drawing as a whole. The GE and GML files and the PostScript writer work on this.
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ struct ge_node {
   int label_color = 0x000000;
   label_anchor label_position = label_anchor::c;
   std::string label;
+  // Numeric keys of a GML node that the editor does not draw (a weight or a demand written by
+  // another tool); kept so that a GML file keeps them and the converter can use them.
+  std::map<std::string, double> values;
   bool operator==(const ge_node&) const = default;
 };
 
@@ -50,6 +54,7 @@ struct ge_edge {
   point target_anchor;
   std::vector<point> bends;
   std::string label;
+  std::map<std::string, double> values;  // numeric GML keys of the edge, as for nodes
   bool operator==(const ge_edge&) const = default;
 };
 

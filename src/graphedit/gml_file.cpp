@@ -244,6 +244,13 @@ class gml_reader {
     report_error(msg::gml_unknown_word, {name_, v.line, what, t});
   }
 
+  // A numeric key that the editor does not know is kept with its value; any other is skipped.
+  static void keep_number(std::map<std::string, double>& values, const std::string& key,
+                          const gml_value& v) {
+    if (v.what == gml_value::kind::integer || v.what == gml_value::kind::real)
+      values[key] = v.real;
+  }
+
   void node_graphics(ge_node& a, const gml_list& items) {
     for (const auto& [key, v] : items) {
       if (key == "x")
@@ -295,6 +302,8 @@ class gml_reader {
         node_graphics(a, list(key, v));
       } else if (key == "LabelGraphics") {
         label_graphics(a, list(key, v));
+      } else {
+        keep_number(a.values, key, v);
       }
     }
     if (!has_id || nodes_.count(id) != 0) report_error(msg::gml_node_id, {name_, item.line});
@@ -390,6 +399,8 @@ class gml_reader {
         label_graphics(a, list(key, v));
       } else if (key == "edgeAnchor") {
         edge_anchor(a, list(key, v));
+      } else if (key != "id") {
+        keep_number(a.values, key, v);
       }
     }
     node v = end_node(item, has_s, s, "source");
@@ -431,11 +442,17 @@ void write_label_graphics(std::ostream& out, label_kind type, int color, label_a
       << indent << "]\n";
 }
 
+void write_values(std::ostream& out, const std::map<std::string, double>& values) {
+  for (const auto& [key, value] : values) out << "    " << key << ' ' << value << '\n';
+}
+
 void write_node(std::ostream& out, const ge_node& a, int id) {
   out << "  node [\n"
       << "    id " << id << '\n'
       << "    label " << quoted(a.label) << '\n'
-      << "    parameter " << quoted(a.data) << '\n'
+      << "    parameter " << quoted(a.data) << '\n';
+  write_values(out, a.values);
+  out
       << "    graphics [\n"
       << "      x " << a.position.xcoord() << '\n'
       << "      y " << a.position.ycoord() << '\n'
@@ -455,8 +472,9 @@ void write_edge(std::ostream& out, const ge_edge& a, int source, int target) {
       << "    source " << source << '\n'
       << "    target " << target << '\n'
       << "    parameter " << quoted(a.data) << '\n'
-      << "    label " << quoted(a.label) << '\n'
-      << "    graphics [\n"
+      << "    label " << quoted(a.label) << '\n';
+  write_values(out, a.values);
+  out << "    graphics [\n"
       << "      type \"line\"\n"
       << "      arrow " << quoted(word_of(a.direction, arrow_words)) << '\n'
       << "      width " << a.width << '\n'

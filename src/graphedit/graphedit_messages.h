@@ -28,6 +28,19 @@ inline constexpr message gml_edge_end{3528, "%s, line %d: edge with an unknown %
 // A bend with one coordinate only is dropped and reading goes on.
 inline constexpr message gml_incomplete_bend{0, "ignoring incomplete bend"};
 
+// The converter between editor graphs and mero graph files.
+inline constexpr message convert_node_key{3531, "Node %d has no number under the key \"%s\"."};
+inline constexpr message convert_edge_key{
+    3532, "Edge %d (from node %d to node %d) has no number under the key \"%s\"."};
+inline constexpr message convert_empty{3533, "%s: the graph has no nodes."};
+inline constexpr message convert_keys_unused{
+    3534, "--weight and --length are used only when a mero graph file is written."};
+inline constexpr message usage{
+    3535,
+    "Usage: graphedit [GRAPHFILE] | graphedit --convert IN OUT [--weight=KEY[,KEY...]] "
+    "[--length=KEY]"};
+inline constexpr message bad_option{3536, "Unknown option or missing argument: %s"};
+
 // The editor.
 inline constexpr message empty_graph{0, "\\bf\\red Empty Graph."};
 inline constexpr message overwrite_graph{0, "\\bf\\blue Overwrite existing graph ?"};

@@ -138,12 +138,13 @@ bool tk_window::realize() {
           "-borderwidth", "0"});
     // The area keeps its size in pixels when the panel above it is wider.
     call({"pack", canvas_path(), "-side", "top"});
-    call({"bind", canvas_path(), "<ButtonPress>", "::mero::event " + id + " click %b %x %y"});
+    call({"bind", canvas_path(), "<ButtonPress>", "::mero::event " + id + " click %b %x %y %s"});
     call({"bind", canvas_path(), "<Configure>", "::mero::event " + id + " resize %w %h"});
   }
   realized_ = true;
   for (std::size_t i = 0; i < items().size(); ++i) build_item(i);
   arrange_buttons();
+  for (std::size_t i = 0; i < menu_bar().size(); ++i) menu_bar_changed(i);
   return true;
 }
 
@@ -174,6 +175,63 @@ void tk_window::arrange_buttons() {
     call({"raise", b});
     used += w;
   }
+}
+
+// The bar is the toplevel's -menu; each cascade is a child menu named m<index> of its parent.
+void tk_window::menu_bar_changed(std::size_t index) {
+  if (!realized_) return;
+  const std::string bar = path_ + ".mb";
+  if (call({"winfo", "exists", bar}) != "1") {
+    call({"menu", bar, "-tearoff", "0"});
+    call({path_, "configure", "-menu", bar});
+  }
+  build_menu(bar, {menu_bar()[index]});
+}
+
+void tk_window::build_menu(const std::string& menu, const std::vector<menu_entry>& entries) {
+  for (const menu_entry& e : entries) {
+    if (e.separator) {
+      call({menu, "add", "separator"});
+      continue;
+    }
+    int underline = -1;
+    const std::string label = menu_label(e.label, &underline);
+    const std::string at = std::to_string(underline);
+    if (e.entries.empty()) {
+      call({menu, "add", "command", "-label", label, "-underline", at, "-command",
+            "::mero::event " + std::to_string(id_) + " button " + std::to_string(e.number)});
+      continue;
+    }
+    static int cascades = 0;
+    const std::string sub = menu + ".m" + std::to_string(++cascades);
+    call({"menu", sub, "-tearoff", "0"});
+    call({menu, "add", "cascade", "-label", label, "-underline", at, "-menu", sub});
+    build_menu(sub, e.entries);
+  }
+}
+
+std::pair<std::string, int> tk_window::menu_entry_path(
+    const std::vector<std::string>& labels) const {
+  if (!realized_ || labels.empty()) return {"", -1};
+  std::string menu = path_ + ".mb";
+  const std::vector<menu_entry>* level = &menu_bar();
+  for (std::size_t k = 0; k < labels.size(); ++k) {
+    int index = -1;
+    const menu_entry* found = nullptr;
+    for (const menu_entry& e : *level) {
+      ++index;
+      if (!e.separator && menu_label(e.label) == menu_label(labels[k])) {
+        found = &e;
+        break;
+      }
+    }
+    if (found == nullptr) return {"", -1};
+    if (k + 1 == labels.size()) return {menu, index};
+    if (found->entries.empty()) return {"", -1};
+    menu = call({menu, "entrycget", std::to_string(index), "-menu"});
+    level = &found->entries;
+  }
+  return {"", -1};
 }
 
 // Text and string items stack in the upper frame; buttons and menus line up in the row below.
@@ -342,10 +400,12 @@ void tk_window::deliver(const std::vector<std::string>& words) {
   is_click_ = false;
   if (kind == "button" && words.size() == 2) {
     event_ = std::atoi(words[1].c_str());
-  } else if (kind == "click" && words.size() == 4) {
+  } else if (kind == "click" && (words.size() == 4 || words.size() == 5)) {
     is_click_ = true;
     event_ = -std::atoi(words[1].c_str());
-    set_clicked(std::atof(words[2].c_str()), std::atof(words[3].c_str()));
+    // %s: the modifier state, shift in its lowest bit.
+    const bool shift = words.size() == 5 && (std::atoi(words[4].c_str()) & 1) != 0;
+    set_clicked(std::atof(words[2].c_str()), std::atof(words[3].c_str()), shift);
   } else if (kind == "close") {
     event_ = close_value();
   } else if (kind == "destroyed") {

@@ -5,6 +5,7 @@
 // the close value at once, so that nothing waits for a window that cannot appear.
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kernel/window/window.h"
@@ -38,6 +39,10 @@ class tk_window : public window {
   const std::string& path() const { return path_; }
   std::string button_path(int number) const;
   std::string canvas_path() const { return path_ + ".c"; }
+  // The Tk menu that holds the entry reached through the labels (as given to menu_bar_entry,
+  // '&' marks included), and the entry's index in it; empty when there is no such entry. Tests
+  // and scripted runs press it with "<menu> invoke <index>".
+  std::pair<std::string, int> menu_entry_path(const std::vector<std::string>& labels) const;
 
   // Called by the event command of the interpreter.
   void deliver(const std::vector<std::string>& words);
@@ -52,11 +57,13 @@ class tk_window : public window {
   void erase() override;
   void buffer_flushed() override;
   void item_changed(std::size_t index) override;
+  void menu_bar_changed(std::size_t index) override;
 
  private:
   bool realize();  // builds the widgets, withdrawn; false without a display
   void build_item(std::size_t index);
   void arrange_buttons();
+  void build_menu(const std::string& menu, const std::vector<menu_entry>& entries);
   void show_at(int x, int y);
   void centre_on(int left, int top, int width, int height);
   int wait(bool clicks);

@@ -95,6 +95,39 @@ int window::button(const std::string& label, int number) {
   return number;
 }
 
+int window::menu_bar_entry(menu_entry entry) {
+  int first = -1;
+  // Numbers commands without one, depth first, and keeps the count of numbers above those given.
+  auto number = [&](auto& self, menu_entry& e) -> void {
+    if (e.separator) return;
+    if (e.entries.empty()) {
+      if (e.number < 0) e.number = next_number_;
+      if (e.number >= next_number_) next_number_ = e.number + 1;
+      if (first < 0) first = e.number;
+      return;
+    }
+    for (menu_entry& sub : e.entries) self(self, sub);
+  };
+  number(number, entry);
+  menu_bar_.push_back(std::move(entry));
+  menu_bar_changed(menu_bar_.size() - 1);
+  return first;
+}
+
+std::string window::menu_label(const std::string& label, int* underline) {
+  std::string text;
+  if (underline != nullptr) *underline = -1;
+  for (std::size_t k = 0; k < label.size(); ++k) {
+    if (label[k] == '&' && k + 1 < label.size()) {
+      ++k;
+      if (label[k] != '&' && underline != nullptr && *underline < 0)
+        *underline = static_cast<int>(text.size());
+    }
+    text += label[k];
+  }
+  return text;
+}
+
 int window::menu(const std::string& label, const std::vector<std::string>& entries) {
   const int first = next_number_;
   next_number_ += static_cast<int>(entries.size());

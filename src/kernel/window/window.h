@@ -73,6 +73,16 @@ class window {
     std::vector<std::string> entries;  // menus
   };
 
+  // One entry of a menu bar: a command (with the number read_mouse returns for it), a cascade
+  // (a submenu, when entries is not empty) or a separator line. A '&' in the label marks the
+  // letter that is underlined and chosen with the keyboard; "&&" stands for '&' itself.
+  struct menu_entry {
+    std::string label;
+    int number = -1;
+    std::vector<menu_entry> entries;
+    bool separator = false;
+  };
+
   // Nothing is visible yet. A width or height of 0 makes a panel without a drawing area.
   window(int width, int height, std::string title);
   virtual ~window();
@@ -106,6 +116,14 @@ class window {
   void set_text(int item_index, const std::string& text);
   const std::vector<item>& items() const { return items_; }
 
+  // Adds a menu (or, without entries, a command) to the menu bar on top of the window. Every
+  // command whose number is negative takes the next free number, depth first in menu order; the
+  // first number given out is returned (-1 when none). Backends without menus ignore the bar.
+  int menu_bar_entry(menu_entry entry);
+  const std::vector<menu_entry>& menu_bar() const { return menu_bar_; }
+  // The label without its '&' marks, and the place of the underlined letter (-1 for none).
+  static std::string menu_label(const std::string& label, int* underline = nullptr);
+
   // Makes the window visible: centred on the screen, at a given screen position, or centred
   // over a parent window.
   virtual void display() = 0;
@@ -119,6 +137,8 @@ class window {
   // position of the click in clicked()), or the close value.
   virtual int read_mouse() = 0;
   point clicked() const { return clicked_; }
+  // Whether shift was held at the last click (backends that cannot tell say no).
+  bool shift_clicked() const { return shift_clicked_; }
   // Hides the window and releases what the backend holds for it.
   virtual void close() = 0;
 
@@ -172,11 +192,16 @@ class window {
   virtual void buffer_flushed() {}
   // Told about every item added or changed after the backend has built its widgets.
   virtual void item_changed(std::size_t) {}
+  // Told about every menu added to the menu bar after the backend has built its widgets.
+  virtual void menu_bar_changed(std::size_t) {}
 
   // A backend whose drawing area changed size calls this: the frame keeps xmin, xmax and ymin,
   // the area is cleared and the redraw handler draws again.
   void resized(int width, int height);
-  void set_clicked(double px, double py) { clicked_ = to_world(px, py); }
+  void set_clicked(double px, double py, bool shift = false) {
+    clicked_ = to_world(px, py);
+    shift_clicked_ = shift;
+  }
 
  private:
   pen current_pen() const { return {color_, line_width_}; }
@@ -189,10 +214,12 @@ class window {
   std::string title_;
   double xmin_ = 0.0, xmax_ = 100.0, ymin_ = 0.0, ymax_ = 0.0, scale_ = 1.0;
   std::vector<item> items_;
+  std::vector<menu_entry> menu_bar_;
   int next_number_ = 0;
   int close_value_ = default_close_value;
   std::function<void(window&)> redraw_;
   point clicked_;
+  bool shift_clicked_ = false;
   color color_ = color::black;
   int line_width_ = 1;
   text_font font_;

@@ -81,6 +81,44 @@ TEST_F(tk_window_test, ButtonsClicksAndTheFrameEndReadMouse) {
   EXPECT_EQ(tcl("winfo exists " + w.canvas_path()), "1");
 }
 
+// A menu bar with cascades: commands without a number are numbered depth first from the next free
+// one, a given number is kept, '&' marks the underlined letter; pressing a nested entry ends
+// read_mouse with its number, and a shift click says so.
+TEST_F(tk_window_test, MenuBarCascadesAndShiftClicks) {
+  tk_window w(200, 200, "menus");
+  EXPECT_EQ(w.button("first"), 0);
+  using E = window::menu_entry;
+  E file{"&File", -1, {E{"&Open", -1, {}}, E{"", -1, {}, true},
+                       E{"&Export", -1, {E{"&Latex/Postscript", -1, {}}, E{"Fixed", 40, {}}}}}};
+  EXPECT_EQ(w.menu_bar_entry(file), 1);
+  EXPECT_EQ(w.menu_bar_entry(E{"&done", -1, {}}), 41);
+  EXPECT_EQ(w.menu_bar()[0].entries[2].entries[0].number, 2);
+  int underline = 0;
+  EXPECT_EQ(window::menu_label("Copy to &Clipboard", &underline), "Copy to Clipboard");
+  EXPECT_EQ(underline, 8);
+  EXPECT_EQ(window::menu_label("R&&D &x", &underline), "R&D x");
+  EXPECT_EQ(underline, 4);
+  w.display();
+  auto [menu, index] = w.menu_entry_path({"File", "&Export", "Latex/Postscript"});
+  ASSERT_FALSE(menu.empty());
+  EXPECT_EQ(index, 0);
+  EXPECT_EQ(tcl(menu + " entrycget 1 -label"), "Fixed");
+  EXPECT_EQ(tcl(menu + " entrycget 0 -underline"), "0");
+  soon(menu + " invoke 1");
+  EXPECT_EQ(w.read_mouse(), 40);
+  auto [bar, done] = w.menu_entry_path({"done"});
+  EXPECT_EQ(done, 1);
+  soon(bar + " invoke 1");
+  EXPECT_EQ(w.read_mouse(), 41);
+  EXPECT_TRUE(w.menu_entry_path({"File", "Nothing"}).first.empty());
+  soon("event generate " + w.canvas_path() + " <ButtonPress-1> -x 10 -y 10 -state 1");
+  EXPECT_EQ(w.read_mouse(), window::left_click);
+  EXPECT_TRUE(w.shift_clicked());
+  soon("event generate " + w.canvas_path() + " <ButtonPress-1> -x 10 -y 10");
+  EXPECT_EQ(w.read_mouse(), window::left_click);
+  EXPECT_FALSE(w.shift_clicked());
+}
+
 // The question panel: "cancel" is button 0 and "ok" button 1, and a modal open returns the one
 // pressed; a click into the panel does not end it.
 TEST_F(tk_window_test, ModalPanelReturnsItsButton) {

@@ -1,0 +1,470 @@
+#include "graphedit/graph_algorithms.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <random>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+#include <boost/graph/adjacency_list.hpp>
+#include <boost/graph/biconnected_components.hpp>
+#include <boost/graph/boyer_myrvold_planar_test.hpp>
+#include <boost/graph/chrobak_payne_drawing.hpp>
+#include <boost/graph/fruchterman_reingold.hpp>
+#include <boost/graph/is_kuratowski_subgraph.hpp>
+#include <boost/graph/bipartite.hpp>
+#include <boost/graph/make_biconnected_planar.hpp>
+#include <boost/graph/make_connected.hpp>
+#include <boost/graph/make_maximal_planar.hpp>
+#include <boost/graph/planar_canonical_ordering.hpp>
+#include <boost/graph/random_layout.hpp>
+#include <boost/graph/topology.hpp>
+
+#include "graphedit/simple_layouts.h"
+#include "kernel/graph_connectivity.h"
+
+namespace mero {
+
+namespace {
+
+using simple_graph = boost::adjacency_list<boost::vecS, boost::vecS, boost::undirectedS>;
+// The graph for the planar drawing needs edge indices.
+using indexed_graph =
+    boost::adjacency_list<boost::vecS, boost::vecS, boost::undirectedS, boost::no_property,
+                          boost::property<boost::edge_index_t, std::size_t>>;
+
+// Each node's place in list order.
+std::unordered_map<node, std::size_t> places(const graph& g) {
+  std::unordered_map<node, std::size_t> at;
+  for (node v = g.first_node(); v != nullptr; v = graph::succ_node(v)) at[v] = at.size();
+  return at;
+}
+
+// The pairs {v, w}, v < w, of the simple undirected graph underneath, in edge order.
+std::vector<std::pair<std::size_t, std::size_t>> simple_pairs(const graph& g) {
+  auto at = places(g);
+  std::set<std::pair<std::size_t, std::size_t>> seen;
+  std::vector<std::pair<std::size_t, std::size_t>> pairs;
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
+    std::size_t a = at[graph::source(e)], b = at[graph::target(e)];
+    if (a == b) continue;
+    std::pair<std::size_t, std::size_t> p(std::min(a, b), std::max(a, b));
+    if (seen.insert(p).second) pairs.push_back(p);
+  }
+  return pairs;
+}
+
+template <typename G>
+G boost_graph(const graph& g) {
+  G b(static_cast<std::size_t>(g.number_of_nodes()));
+  for (auto [v, w] : simple_pairs(g)) boost::add_edge(v, w, b);
+  return b;
+}
+
+// Connected after taking away the nodes marked gone, over the pairs given.
+bool connected_without(std::size_t n, const std::vector<std::pair<std::size_t, std::size_t>>& pairs,
+                       const std::vector<bool>& gone) {
+  std::vector<std::vector<std::size_t>> next(n);
+  for (auto [v, w] : pairs)
+    if (!gone[v] && !gone[w]) {
+      next[v].push_back(w);
+      next[w].push_back(v);
+    }
+  std::size_t start = 0;
+  while (start < n && gone[start]) ++start;
+  if (start == n) return true;
+  std::vector<bool> seen(n, false);
+  std::vector<std::size_t> stack{start};
+  seen[start] = true;
+  std::size_t count = 1;
+  while (!stack.empty()) {
+    std::size_t v = stack.back();
+    stack.pop_back();
+    for (std::size_t w : next[v])
+      if (!seen[w]) {
+        seen[w] = true;
+        ++count;
+        stack.push_back(w);
+      }
+  }
+  std::size_t alive = static_cast<std::size_t>(std::count(gone.begin(), gone.end(), false));
+  return count == alive;
+}
+
+}  // namespace
+
+bool is_simple(const graph& g) {
+  std::set<std::pair<node, node>> seen;
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
+    if (graph::source(e) == graph::target(e)) return false;
+    if (!seen.insert({graph::source(e), graph::target(e)}).second) return false;
+  }
+  return true;
+}
+
+bool is_bidirected(const graph& g) {
+  std::map<std::pair<node, node>, int> balance;
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
+    node v = graph::source(e), w = graph::target(e);
+    if (v == w) continue;  // a loop is its own reversal
+    ++balance[{v, w}];
+    --balance[{w, v}];
+  }
+  for (const auto& [ends, count] : balance)
+    if (count != 0) return false;
+  return true;
+}
+
+bool is_bipartite(const graph& g) {
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e))
+    if (graph::source(e) == graph::target(e)) return false;
+  return boost::is_bipartite(boost_graph<simple_graph>(g));
+}
+
+bool is_biconnected(const graph& g) {
+  if (!is_connected(g)) return false;
+  simple_graph b = boost_graph<simple_graph>(g);
+  std::vector<std::size_t> cut;
+  boost::articulation_points(b, std::back_inserter(cut));
+  return cut.empty();
+}
+
+bool is_triconnected(const graph& g) {
+  std::size_t n = static_cast<std::size_t>(g.number_of_nodes());
+  if (n < 4 || !is_biconnected(g)) return false;
+  auto pairs = simple_pairs(g);
+  std::vector<bool> gone(n, false);
+  for (std::size_t a = 0; a < n; ++a)
+    for (std::size_t b = a + 1; b < n; ++b) {
+      gone[a] = gone[b] = true;
+      bool ok = connected_without(n, pairs, gone);
+      gone[a] = gone[b] = false;
+      if (!ok) return false;
+    }
+  return true;
+}
+
+bool is_series_parallel(const graph& g) {
+  std::size_t n = static_cast<std::size_t>(g.number_of_nodes());
+  std::vector<std::set<std::size_t>> next(n);  // a set: parallel edges merge at once
+  for (auto [v, w] : simple_pairs(g)) {
+    next[v].insert(w);
+    next[w].insert(v);
+  }
+  std::vector<bool> alive(n, true);
+  bool changed = true;
+  while (changed) {
+    changed = false;
+    for (std::size_t v = 0; v < n; ++v) {
+      if (!alive[v] || next[v].size() > 2) continue;
+      std::vector<std::size_t> ends(next[v].begin(), next[v].end());
+      for (std::size_t w : ends) next[w].erase(v);
+      if (ends.size() == 2) {
+        next[ends[0]].insert(ends[1]);
+        next[ends[1]].insert(ends[0]);
+      }
+      next[v].clear();
+      alive[v] = false;
+      changed = true;
+    }
+  }
+  return std::find(alive.begin(), alive.end(), true) == alive.end();
+}
+
+bool is_planar(const graph& g) {
+  simple_graph b = boost_graph<simple_graph>(g);
+  return boost::boyer_myrvold_planarity_test(b);
+}
+
+int delete_loops(graph& g) {
+  std::vector<edge> loops;
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e))
+    if (graph::source(e) == graph::target(e)) loops.push_back(e);
+  for (edge e : loops) g.del_edge(e);
+  return static_cast<int>(loops.size());
+}
+
+int make_simple(graph& g) {
+  int count = delete_loops(g);
+  std::set<std::pair<node, node>> seen;
+  std::vector<edge> extra;
+  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e))
+    if (!seen.insert({graph::source(e), graph::target(e)}).second) extra.push_back(e);
+  for (edge e : extra) g.del_edge(e);
+  return count + static_cast<int>(extra.size());
+}
+
+int make_biconnected(graph& g) {
+  int added = static_cast<int>(make_connected(g).size());
+  for (;;) {
+    std::vector<node> nodes = g.all_nodes();
+    simple_graph b = boost_graph<simple_graph>(g);
+    if (boost::num_vertices(b) < 3) return added;
+    std::map<boost::graph_traits<simple_graph>::edge_descriptor, std::size_t> block;
+    auto block_of = boost::make_assoc_property_map(block);
+    std::vector<std::size_t> cut;
+    boost::biconnected_components(b, block_of, std::back_inserter(cut));
+    if (cut.empty()) return added;
+    std::size_t a = *std::min_element(cut.begin(), cut.end());
+    // Two neighbours of a whose edges to a lie in different blocks.
+    std::size_t first = 0, first_block = 0;
+    bool have_first = false;
+    for (auto [e, end] = boost::out_edges(a, b); e != end; ++e) {
+      std::size_t w = boost::target(*e, b), k = block_of[*e];
+      if (!have_first) {
+        first = w;
+        first_block = k;
+        have_first = true;
+      } else if (k != first_block) {
+        g.new_edge(nodes[first], nodes[w]);
+        ++added;
+        break;
+      }
+    }
+  }
+}
+
+int make_bidirected(graph& g) {
+  std::map<std::pair<node, node>, std::vector<edge>> open;  // unpaired edges by their ends
+  std::vector<edge> edges = g.all_edges();
+  for (edge e : edges)
+    if (graph::reversal(e) == nullptr) open[{graph::source(e), graph::target(e)}].push_back(e);
+  int added = 0;
+  for (edge e : edges) {
+    if (graph::reversal(e) != nullptr) continue;
+    node v = graph::source(e), w = graph::target(e);
+    auto& mine = open[{v, w}];
+    mine.erase(std::find(mine.begin(), mine.end(), e));
+    auto& theirs = open[{w, v}];
+    if (v != w && !theirs.empty()) {
+      edge r = theirs.front();
+      theirs.erase(theirs.begin());
+      graph::set_reversal(e, r);
+    } else if (v == w) {
+      e->reversal = e;  // a loop is its own reversal
+    } else {
+      edge r = g.new_edge(w, v, g.default_edge_info());
+      graph::set_reversal(e, r);
+      ++added;
+    }
+  }
+  return added;
+}
+
+void fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
+  std::vector<node> nodes = x.g.all_nodes();
+  if (nodes.empty()) return;
+  layout_box from = position_box(x);
+  double lx = from.xmin, ly = from.ymin, hx = from.xmax, hy = from.ymax;
+  double w = hx - lx, h = hy - ly;
+  double scale = std::min(w > 0 ? (xmax - xmin) / w : 1e300, h > 0 ? (ymax - ymin) / h : 1e300);
+  if (scale > 1e299) scale = 1;
+  double cx = (xmin + xmax) / 2, cy = (ymin + ymax) / 2;
+  for (node v : nodes) {
+    point& p = x.g.inf(v).position;
+    p = point(cx + (p.xcoord() - (lx + hx) / 2) * scale, cy + (p.ycoord() - (ly + hy) / 2) * scale);
+  }
+  for (edge e = x.g.first_edge(); e != nullptr; e = graph::succ_edge(e))
+    for (point& p : x.g.inf(e).bends)
+      p = point(cx + (p.xcoord() - (lx + hx) / 2) * scale, cy + (p.ycoord() - (ly + hy) / 2) * scale);
+}
+
+void spring_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax,
+                   unsigned seed) {
+  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
+  if (n == 0) return;
+  simple_graph b = boost_graph<simple_graph>(x.g);
+  using topology = boost::rectangle_topology<std::minstd_rand>;
+  using position = topology::point_type;
+  std::minstd_rand random(seed);
+  topology box(random, xmin, ymin, xmax, ymax);
+  std::vector<position> at(n);
+  auto at_map = boost::make_iterator_property_map(at.begin(), boost::get(boost::vertex_index, b));
+  boost::random_graph_layout(b, at_map, box);
+  boost::fruchterman_reingold_force_directed_layout(b, at_map, box);
+  std::size_t k = 0;
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++k)
+    x.g.inf(v).position = point(at[k][0], at[k][1]);
+  remove_bends(x);
+  fit_into_box(x, xmin, ymin, xmax, ymax);
+}
+
+namespace {
+
+using planar_edge = boost::graph_traits<indexed_graph>::edge_descriptor;
+using planar_embedding = std::vector<std::vector<planar_edge>>;
+
+auto embedding_map(indexed_graph& b, planar_embedding& embedding) {
+  return boost::make_iterator_property_map(embedding.begin(), boost::get(boost::vertex_index, b));
+}
+
+// The simple graph underneath made connected, biconnected and maximal planar (Boost), with its
+// embedding; the graph must be planar and have at least three nodes.
+void maximal_planar(const graph& g, indexed_graph& b, planar_embedding& embedding) {
+  b = boost_graph<indexed_graph>(g);
+  std::size_t n = boost::num_vertices(b);
+  auto embed = [&] {
+    std::size_t k = 0;
+    for (auto [e, end] = boost::edges(b); e != end; ++e) boost::put(boost::edge_index, b, *e, k++);
+    embedding.assign(n, {});
+    boost::boyer_myrvold_planarity_test(boost::boyer_myrvold_params::graph = b,
+                                        boost::boyer_myrvold_params::embedding = embedding.data());
+  };
+  boost::make_connected(b);
+  embed();
+  boost::make_biconnected_planar(b, embedding_map(b, embedding));
+  embed();
+  boost::make_maximal_planar(b, embedding_map(b, embedding));
+  embed();
+}
+
+}  // namespace
+
+bool straight_line_planar_layout(ge_graph& x, double xmin, double ymin, double xmax,
+                                 double ymax) {
+  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
+  if (n == 0) return true;
+  if (!is_planar(x.g)) return false;
+  if (n < 3) {
+    circular_layout(x, point((xmin + xmax) / 2, (ymin + ymax) / 2), (xmax - xmin) / 4);
+    return true;
+  }
+  indexed_graph b;
+  planar_embedding embedding;
+  maximal_planar(x.g, b, embedding);
+  std::vector<std::size_t> order;
+  boost::planar_canonical_ordering(b, embedding_map(b, embedding), std::back_inserter(order));
+  struct coord {
+    std::size_t x, y;
+  };
+  std::vector<coord> drawing(n);
+  boost::chrobak_payne_straight_line_drawing(
+      b, embedding_map(b, embedding), order.begin(), order.end(),
+      boost::make_iterator_property_map(drawing.begin(), boost::get(boost::vertex_index, b)));
+  std::size_t k = 0;
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++k)
+    x.g.inf(v).position =
+        point(static_cast<double>(drawing[k].x), static_cast<double>(drawing[k].y));
+  remove_bends(x);
+  fit_into_box(x, xmin, ymin, xmax, ymax);
+  return true;
+}
+
+bool barycentric_planar_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
+  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
+  if (!is_planar(x.g)) return false;
+  if (n < 4) return straight_line_planar_layout(x, xmin, ymin, xmax, ymax);
+  indexed_graph b;
+  planar_embedding embedding;
+  maximal_planar(x.g, b, embedding);
+  // A face of the triangulation: node 0 and two consecutive neighbours in its rotation.
+  std::size_t f0 = 0;
+  std::size_t f1 = boost::target(embedding[0][0], b) == 0 ? boost::source(embedding[0][0], b)
+                                                          : boost::target(embedding[0][0], b);
+  std::size_t f2 = boost::target(embedding[0][1], b) == 0 ? boost::source(embedding[0][1], b)
+                                                          : boost::target(embedding[0][1], b);
+  std::vector<double> px(n, (xmin + xmax) / 2), py(n, (ymin + ymax) / 2);
+  std::vector<bool> fixed(n, false);
+  px[f0] = (xmin + xmax) / 2;
+  py[f0] = ymax;
+  px[f1] = xmin;
+  py[f1] = ymin;
+  px[f2] = xmax;
+  py[f2] = ymin;
+  fixed[f0] = fixed[f1] = fixed[f2] = true;
+  double tolerance = 1e-6 * std::max(xmax - xmin, ymax - ymin);
+  for (int round = 0; round < 100000; ++round) {
+    double moved = 0;
+    for (std::size_t v = 0; v < n; ++v) {
+      if (fixed[v]) continue;
+      double sx = 0, sy = 0;
+      std::size_t d = 0;
+      for (auto [w, end] = boost::adjacent_vertices(v, b); w != end; ++w, ++d) {
+        sx += px[*w];
+        sy += py[*w];
+      }
+      if (d == 0) continue;
+      moved = std::max(moved, std::hypot(sx / d - px[v], sy / d - py[v]));
+      px[v] = sx / d;
+      py[v] = sy / d;
+    }
+    if (moved <= tolerance) break;
+  }
+  std::size_t k = 0;
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++k)
+    x.g.inf(v).position = point(px[k], py[k]);
+  remove_bends(x);
+  return true;
+}
+
+void spring_layout_3d(ge_graph& x, double xmin, double ymin, double xmax, double ymax,
+                      unsigned seed) {
+  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
+  if (n == 0) return;
+  simple_graph b = boost_graph<simple_graph>(x.g);
+  using topology = boost::cube_topology<std::minstd_rand>;
+  std::minstd_rand random(seed);
+  topology cube(random, 100.0);
+  std::vector<topology::point_type> at(n);
+  auto at_map = boost::make_iterator_property_map(at.begin(), boost::get(boost::vertex_index, b));
+  boost::random_graph_layout(b, at_map, cube);
+  // The grid of force pairs that Boost uses by default exists in the plane only.
+  std::vector<topology::point_difference_type> moves(n);
+  boost::fruchterman_reingold_force_directed_layout(
+      b, at_map, cube, boost::square_distance_attractive_force(),
+      boost::square_distance_repulsive_force(), boost::all_force_pairs(),
+      boost::linear_cooling<double>(100),
+      boost::make_iterator_property_map(moves.begin(), boost::get(boost::vertex_index, b)));
+  const double a = 30 * std::acos(-1.0) / 180, c = 20 * std::acos(-1.0) / 180;
+  std::size_t k = 0;
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++k) {
+    double X = at[k][0], Y = at[k][1], Z = at[k][2];
+    double x1 = X * std::cos(a) + Z * std::sin(a), z1 = -X * std::sin(a) + Z * std::cos(a);
+    double y1 = Y * std::cos(c) - z1 * std::sin(c);
+    x.g.inf(v).position = point(x1, y1);
+  }
+  remove_bends(x);
+  fit_into_box(x, xmin, ymin, xmax, ymax);
+}
+
+std::vector<std::vector<int>> faces_by_angle(const ge_graph& x) {
+  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
+  std::vector<node> nodes = x.g.all_nodes();
+  std::vector<std::vector<std::size_t>> around(n);
+  for (auto [v, w] : simple_pairs(x.g)) {
+    around[v].push_back(w);
+    around[w].push_back(v);
+  }
+  auto angle = [&](std::size_t v, std::size_t w) {
+    const point& p = x.g.inf(nodes[v]).position;
+    const point& q = x.g.inf(nodes[w]).position;
+    return std::atan2(q.ycoord() - p.ycoord(), q.xcoord() - p.xcoord());
+  };
+  for (std::size_t v = 0; v < n; ++v)
+    std::sort(around[v].begin(), around[v].end(),
+              [&](std::size_t a, std::size_t b) { return angle(v, a) < angle(v, b); });
+  // A face walk: arriving at w from v, leave along the edge that follows (w, v) clockwise,
+  // which is the one before it in counter-clockwise order.
+  std::set<std::pair<std::size_t, std::size_t>> used;
+  std::vector<std::vector<int>> faces;
+  for (std::size_t v = 0; v < n; ++v)
+    for (std::size_t w : around[v]) {
+      if (used.count({v, w}) != 0) continue;
+      std::vector<int> face;
+      std::size_t a = v, b = w;
+      while (used.insert({a, b}).second) {
+        face.push_back(static_cast<int>(a));
+        const auto& ring = around[b];
+        std::size_t at = static_cast<std::size_t>(std::find(ring.begin(), ring.end(), a) - ring.begin());
+        std::size_t c = ring[(at + ring.size() - 1) % ring.size()];
+        a = b;
+        b = c;
+      }
+      faces.push_back(face);
+    }
+  return faces;
+}
+
+}  // namespace mero
