@@ -2,7 +2,8 @@
 # Times `mero -a N_l1_sum_v1` and `mero -a N_linf_max` as whole processes (reading included) for
 # n = 5, 20, 50 new facilities and m = 100, 1000 random locations, and prints the size of the
 # linear program each one builds:
-#   N_l1_sum_v1: n m + n (n - 1) / 2 rows, n + 2 rows columns, solved once per axis;
+#   N_l1_sum_v1: n rows, n m + n (n - 1) / 2 bounded columns (the dual of the model with one
+#                row per term), solved once per axis;
 #   N_linf_max:  2 n m + n (n - 1) rows, n + 1 columns, solved once per axis.
 # Uses the program in $MERO, else bin/mero of the repository (built by `make build`).
 source "$(dirname "$0")/lib/common.sh"
@@ -44,7 +45,7 @@ for n in 5 20 50; do
     locations "$n" "$m" >"$work/in.loc"
     for algorithm in N_l1_sum_v1 N_linf_max; do
       if [ "$algorithm" = N_l1_sum_v1 ]; then
-        rows=$((n * m + n * (n - 1) / 2)); columns=$((n + 2 * rows))
+        rows=$n; columns=$((n * m + n * (n - 1) / 2))
       else
         rows=$((2 * n * m + n * (n - 1))); columns=$((n + 1))
       fi

@@ -4,6 +4,8 @@
 // quadratic objective (squared sum). The first two are the tests of the linear programs in
 // src/lp/l1_model and src/lp/linf_model as well.
 
+#include <random>
+
 #include "planar/multifacility.h"
 #include "planar_fixtures.h"
 
@@ -64,6 +66,55 @@ TEST(N_l1_sum_v1, matches_the_brute_force_over_the_coordinate_grid) {
     EXPECT_NEAR(objective_at(s, v, l1, false, o), value, 1e-7) << "v = " << v;
     EXPECT_EQ(o[0].weight(0), 0.0);
     EXPECT_EQ(o[1].weight(0), 1.0);
+  }
+}
+
+// Three facilities tied to each other and to seven random locations (weights 0 to 4, ties 0 to
+// 3): the value is the least of the objective over every choice of location coordinates for the
+// three facilities on each axis, and the reported points reach it.
+TEST(N_l1_sum_v1, matches_the_brute_force_on_random_instances) {
+  std::mt19937 random(20);
+  std::uniform_int_distribution<int> coordinate(-20, 20), weight(0, 4), tie_of(0, 3);
+  constexpr int n = 3, m = 7;
+  for (int round = 0; round < 25; ++round) {
+    sites s;
+    for (int i = 0; i < m; ++i)
+      s.push_back(site(coordinate(random), coordinate(random),
+                       {double(weight(random)), double(weight(random)), double(weight(random))}));
+    matrix V(n, n);
+    for (int j = 0; j < n; ++j)
+      for (int k = j + 1; k < n; ++k) V(j, k) = V(k, j) = tie_of(random);
+    // The objective on one axis with the facilities at c[0], c[1], c[2].
+    const auto axis_value = [&](int axis, const double* c) {
+      double value = 0.0;
+      for (int j = 0; j < n; ++j) {
+        for (const location& a : s) value += a.weight(j) * std::fabs(c[j] - a.coordinate(axis));
+        for (int k = j + 1; k < n; ++k) value += V(j, k) * std::fabs(c[j] - c[k]);
+      }
+      return value;
+    };
+    double best = 0.0;
+    for (int axis = 0; axis < 2; ++axis) {
+      double least = INFINITY;
+      for (const location& a : s)
+        for (const location& b : s)
+          for (const location& e : s) {
+            const double c[n] = {a.coordinate(axis), b.coordinate(axis), e.coordinate(axis)};
+            least = std::min(least, axis_value(axis, c));
+          }
+      best += least;
+    }
+    facilities f = problem(s);
+    const double value = f.N_l1_sum_v1(n, V, true);
+    EXPECT_NEAR(value, best, 1e-7 * std::max(1.0, best)) << "round " << round;
+    const auto o = optima_of(f);
+    ASSERT_EQ(o.size(), std::size_t{n});
+    double reached = 0.0;
+    for (int axis = 0; axis < 2; ++axis) {
+      const double c[n] = {o[0].coordinate(axis), o[1].coordinate(axis), o[2].coordinate(axis)};
+      reached += axis_value(axis, c);
+    }
+    EXPECT_NEAR(reached, best, 1e-7 * std::max(1.0, best)) << "round " << round;
   }
 }
 
