@@ -5,18 +5,23 @@
 #   loc_undir_center        least row maximum               (OR-Library pmed1 to pmed40)
 #   abs_undir_center        against the same with the absolute center edge by edge (pmed1-40)
 #   l2_v1_max               against CGAL's Min_circle_2     (10^5 and 10^6 random points)
+#   l1_sum                  against the same CGAL time, its value against a weighted median
+#                           program with the same stream reading (bench/peers/l1_median.cpp)
+#   N_median_cplex          against CBC on the p-median MIP (OR-Library pmed1 to pmed10)
 # Each row prints both times, the ratio peer / mero (above 1: mero is faster) and both values
 # (UFL: each program's fastest of up to twenty runs while its runs take under a second together);
 # values that differ beyond the six digits of mero's report make the script fail.
 # Installs its peers from Debian when they are missing (coinor-cbc, python3-scipy, libcgal-dev).
-# Usage: bench/peers.sh [ufl|pmed|circle]...   (default: all three; UFL_INSTANCES=names picks
-#        OR-Library uncap instances)
+# Usage: bench/peers.sh [ufl|pmed|circle|pmedmip]...   (default: all four; UFL_INSTANCES=names
+#        picks OR-Library uncap instances)
+#        PMEDMIP_LIMIT=seconds (default 600): a longer mero run of N_median_cplex is cut off; its
+#        row then shows "> LIMIT" and CBC's value is checked against the published optimum.
 source "$(dirname "$0")/lib/common.sh"
 orlib="${ORLIB:-$repo/../shared/benchmarks/orlib}"
 peers="$repo/bench/peers"
 python=/usr/bin/python3
 parts=("$@")
-[ ${#parts[@]} -gt 0 ] || parts=(ufl pmed circle)
+[ ${#parts[@]} -gt 0 ] || parts=(ufl pmed circle pmedmip)
 
 need=()
 command -v cbc >/dev/null || need+=(coinor-cbc)
@@ -44,6 +49,18 @@ fastest() {  # command...: as seconds, but runs it up to twenty times while the 
     awk -v t="$total" 'BEGIN { exit !(t >= 1) }' && break
   done
   echo "$best"
+}
+
+timed() {  # command...: as seconds, and the processor seconds (user + system) go to $work/cpu
+  local start=$EPOCHREALTIME
+  /usr/bin/time -f '%U %S' -o "$work/time" "$@" >"$work/out" 2>/dev/null || true
+  awk -v a="$start" -v b="$EPOCHREALTIME" 'BEGIN { printf "%.4f", b - a }'
+  tail -1 "$work/time" | awk '{ printf "%.2f", $1 + $2 }' >"$work/cpu"
+}
+
+cpu_row() {  # name, mero cpu, peer cpu: the processor seconds of the row above and their ratio
+  awk -v n="$1" -v m="$2" -v p="$3" 'BEGIN {
+    printf "%-24s %9s %9s %7.2f   (processor seconds, user + system)\n", "  " n, m, p, (m > 0 ? p / m : 0) }'
 }
 
 report_value() {  # the objective value of a mero report in $work/out
@@ -105,17 +122,52 @@ pmed() {
 }
 
 circle() {
-  echo "== l2_v1_max against CGAL Min_circle_2"
+  echo "== l2_v1_max against CGAL Min_circle_2, l1_sum against a weighted median on the same"
+  echo "   stream reading (ratios of both against the CGAL time: the reference for the reading)"
   g++ -O2 -o "$work/min_circle" "$peers/min_circle.cpp" -lgmp -lmpfr
+  g++ -O2 -o "$work/l1_median" "$peers/l1_median.cpp"
   header
   for n in 100000 1000000; do
     random_locations "$n" 1 0 >"$work/points.loc"
-    local mt pt mv pv
-    mt=$(seconds "$mero" -a l2_v1_max -l "$work/points.loc" --output=nowindowed)
+    local mt pt mv pv lt lv st sv mc pc lc sc
+    mt=$(timed "$mero" -a l2_v1_max -l "$work/points.loc" --output=nowindowed)
+    mv=$(report_value) mc=$(cat "$work/cpu")
+    pt=$(timed "$work/min_circle" "$work/points.loc")
+    pv=$(awk '$1 == "radius" { print $2 }' "$work/out") pc=$(cat "$work/cpu")
+    row "l2_v1_max $n" "$mt" "$pt" "$mv" "$pv"
+    cpu_row "l2_v1_max" "$mc" "$pc"
+    lt=$(timed "$mero" -a l1_sum -l "$work/points.loc" --output=nowindowed)
+    lv=$(report_value) lc=$(cat "$work/cpu")
+    st=$(timed "$work/l1_median" "$work/points.loc")
+    sv=$(awk '$1 == "value" { print $2 }' "$work/out") sc=$(cat "$work/cpu")
+    row "l1_sum $n" "$lt" "$pt" "$lv" "$sv"
+    cpu_row "l1_sum" "$lc" "$pc"
+    printf '%-24s %9s %9s %7s   (the weighted median program: wall, processor seconds)\n' \
+      "  median peer" "" "$st" "$sc"
+  done
+}
+
+pmedmip() {
+  echo "== N_median_cplex against CBC on the p-median MIP"
+  header
+  local limit="${PMEDMIP_LIMIT:-600}"
+  for k in $(seq 1 10); do
+    local name="pmed$k" p optimum mt pt mv pv
+    "$repo/scripts/orlib-pmed-to-mero" "$orlib/pmed/$name.txt" >"$work/$name.graph" 2>/dev/null
+    p="$("$repo/scripts/orlib-pmed-to-mero" --p "$orlib/pmed/$name.txt")"
+    optimum="$(awk -v name="$name" '$1 == name { print $2 }' "$orlib/pmed/optimal.txt")"
+    $python "$peers/pmed_mip.py" "$orlib/pmed/$name.txt" >"$work/$name.lp"
+    mt=$(seconds timeout "$limit" "$mero" -a N_median_cplex -g "$work/$name.graph" -n "$p" \
+           --output=nowindowed)
     mv=$(report_value)
-    pt=$(seconds "$work/min_circle" "$work/points.loc")
-    pv=$(awk '$1 == "radius" { print $2 }' "$work/out")
-    row "random $n" "$mt" "$pt" "$mv" "$pv"
+    pt=$(seconds cbc "$work/$name.lp" solve quit)
+    pv=$(awk '/^Objective value:/ { print $3; exit }' "$work/out")
+    if [ -z "$mv" ]; then  # cut off: the peer must still reach the published optimum
+      printf '%-24s %9s %9s %7s %18s %18s\n' "$name" "> $limit" "$pt" - "(optimum $optimum)" "$pv"
+      agree "$pv" "$optimum" || { echo "values differ: $name" >&2; exit 1; }
+    else
+      row "$name" "$mt" "$pt" "$mv" "$pv"
+    fi
   done
 }
 
