@@ -121,6 +121,14 @@ pmed() {
   done
 }
 
+mero_row() {  # algorithm, n, peer wall, peer cpu, peer value: mero on $work/points.loc
+  local mt mv mc
+  mt=$(timed "$mero" -a "$1" -l "$work/points.loc" --output=nowindowed)
+  mv=$(report_value) mc=$(cat "$work/cpu")
+  row "$1 $2" "$mt" "$3" "$mv" "$5"
+  cpu_row "$1" "$mc" "$4"
+}
+
 circle() {
   echo "== l2_v1_max against CGAL Min_circle_2, l1_sum against a weighted median on the same"
   echo "   stream reading (ratios of both against the CGAL time: the reference for the reading)"
@@ -129,19 +137,13 @@ circle() {
   header
   for n in 100000 1000000; do
     random_locations "$n" 1 0 >"$work/points.loc"
-    local mt pt mv pv lt lv st sv mc pc lc sc
-    mt=$(timed "$mero" -a l2_v1_max -l "$work/points.loc" --output=nowindowed)
-    mv=$(report_value) mc=$(cat "$work/cpu")
+    local pt pv pc st sc
     pt=$(timed "$work/min_circle" "$work/points.loc")
     pv=$(awk '$1 == "radius" { print $2 }' "$work/out") pc=$(cat "$work/cpu")
-    row "l2_v1_max $n" "$mt" "$pt" "$mv" "$pv"
-    cpu_row "l2_v1_max" "$mc" "$pc"
-    lt=$(timed "$mero" -a l1_sum -l "$work/points.loc" --output=nowindowed)
-    lv=$(report_value) lc=$(cat "$work/cpu")
     st=$(timed "$work/l1_median" "$work/points.loc")
-    sv=$(awk '$1 == "value" { print $2 }' "$work/out") sc=$(cat "$work/cpu")
-    row "l1_sum $n" "$lt" "$pt" "$lv" "$sv"
-    cpu_row "l1_sum" "$lc" "$pc"
+    sc=$(cat "$work/cpu") && cp "$work/out" "$work/out.l1"
+    mero_row l2_v1_max "$n" "$pt" "$pc" "$pv"
+    mero_row l1_sum "$n" "$pt" "$pc" "$(awk '$1 == "value" { print $2 }' "$work/out.l1")"
     printf '%-24s %9s %9s %7s   (the weighted median program: wall, processor seconds)\n' \
       "  median peer" "" "$st" "$sc"
   done

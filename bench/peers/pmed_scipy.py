@@ -13,31 +13,18 @@ ones p, q the envelope falls with p and rises with q, with its low point at
 t = (b_p + L - a_q) / 2 of value (a_q + b_p + L) / 2 where that t lies on the edge. The ends of
 the edge score max a and max b (Hakimi 1964 for the method, the usual form for unit weights).
 
-The file is "n m p" and m lines "i j cost" of an undirected graph; where a pair is listed more
-than once, the last line for it gives the cost (as scripts/orlib-pmed-to-mero reads it).
+The graph is read by pmed_graph.py.
 """
 
 import sys
 
 import numpy as np
-from scipy.sparse import csr_matrix
-from scipy.sparse.csgraph import dijkstra
+
+from pmed_graph import read_distances
 
 
 def main():
-    tokens = open(sys.argv[1]).read().split()
-    n, m = int(tokens[0]), int(tokens[1])
-    lengths = {}
-    pos = 3
-    for _ in range(m):
-        i, j, c = int(tokens[pos]) - 1, int(tokens[pos + 1]) - 1, float(tokens[pos + 2])
-        pos += 3
-        lengths[(min(i, j), max(i, j))] = c
-    rows = [a for a, b in lengths] + [b for a, b in lengths]
-    cols = [b for a, b in lengths] + [a for a, b in lengths]
-    data = list(lengths.values()) * 2
-    graph = csr_matrix((data, (rows, cols)), shape=(n, n))
-    d = dijkstra(graph, directed=True)
+    _, _, lengths, d = read_distances(sys.argv[1])
     if len(sys.argv) > 2 and sys.argv[2] == "abscenter":
         print("abscenter %.17g" % absolute_center(d, lengths))
         return
