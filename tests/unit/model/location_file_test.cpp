@@ -114,6 +114,18 @@ TEST(location_file, numbers_beyond_the_double_range) {
   EXPECT_EQ(f.front().coordinate(1), 1.7e308);
 }
 
+// Bytes above 127 (a UTF-8 name, stray bytes before the header, in a number's place) read as
+// any other character: kept in a name, passed through before the header, quoted in a message.
+TEST(location_file, bytes_above_127) {
+  facilities f = read("\xfe\xff" "begin {location}\n1 2 3 [Z\xc3\xbcrich]\n4 5 6\nend\n");
+  EXPECT_EQ(f.names, (std::list<std::string>{"Z\xc3\xbcrich", ""}));
+  EXPECT_EQ(f.back(), location(2.0, 1.0, 4.0, 5.0, 6.0));
+  EXPECT_REPORT(read("begin {location}\n1 2 3\n4 \xff" "5 6\nend\n"), 1504,
+                "Coordinate #2 expected in location file at line 3, found \"\xff" "5 6\" instead.");
+  EXPECT_REPORT(read("begin {location}\n1 2 3 \xe9\n"), 1504,
+                "Name of location expected in location file at line 2, found \"\xe9\" instead.");
+}
+
 TEST(location_file, gauge_numbers) {
   temp_file file("begin {location}\n1 2 3 { 2 } [a]\n4 5 6 {-1}\n7 8 9 [c]\nend\n");
   facilities f;
