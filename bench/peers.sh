@@ -60,7 +60,8 @@ timed() {  # command...: as seconds, and the processor seconds (user + system) g
 
 cpu_row() {  # name, mero cpu, peer cpu: the processor seconds of the row above and their ratio
   awk -v n="$1" -v m="$2" -v p="$3" 'BEGIN {
-    printf "%-24s %9s %9s %7.2f   (processor seconds, user + system)\n", "  " n, m, p, (m > 0 ? p / m : 0) }'
+    printf "%-24s %9s %9s %7.2f   (processor seconds, user + system)\n", "  " n, m, p,
+           (m > 0 ? p / m : 0) }'
 }
 
 report_value() {  # the objective value of a mero report in $work/out
