@@ -69,6 +69,13 @@ void picture_planar(run_context& ctx, const std::string& path) {
     report_error(driver_messages::picture_unwritable, {path});
 }
 
+void results_planar(run_context& ctx, const std::string& path) {
+  const auto write = installed_viewers().results_planar;
+  if (!write) return;
+  const planar_scene scene = scene_of(ctx);
+  write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+}
+
 }  // namespace
 
 void write_objective_value(double value, std::ostream& report) {
@@ -77,13 +84,13 @@ void write_objective_value(double value, std::ostream& report) {
 
 problem_kind planar_kind() {
   return {any_request,        load_locations, weight_columns, write_planar_value,
-          write_results,      show_planar,    picture_planar};
+          write_results,      show_planar,    picture_planar, results_planar};
 }
 
 // A location file of the "GaugeLoc" type, given with a gauge file.
 problem_kind gauge_kind() {
   return {has_gauge_file,   load_gauge_locations, weight_columns, write_situation_value,
-          write_situations, show_planar,          picture_planar};
+          write_situations, show_planar,          picture_planar, results_planar};
 }
 
 }  // namespace mero

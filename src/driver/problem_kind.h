@@ -7,6 +7,7 @@
 // src/driver/<kind>_kind.cpp.
 
 #include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -33,6 +34,9 @@ struct problem_kind {
   // Writes the picture the viewer would show first to path (--picture); null while the kind has
   // no viewer.
   void (*picture)(run_context& ctx, const std::string& path) = nullptr;
+  // Writes what the viewer's "Save Results" writes to path (--results); null while the kind has
+  // no viewer.
+  void (*results)(run_context& ctx, const std::string& path) = nullptr;
 };
 
 problem_kind gauge_kind();
@@ -47,5 +51,8 @@ const problem_kind& kind_of(const run_request& request);
 // The value block of planar problems, which graph problems share:
 // "begin {objective value} ", the value, "end {objective value}", each on its own line.
 void write_objective_value(double value, std::ostream& report);
+
+// Opens path and lets write fill it (--results); a file that cannot be written is error 1516.
+void write_results_file(const std::string& path, const std::function<void(std::ostream&)>& write);
 
 }  // namespace mero
