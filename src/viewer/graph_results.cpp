@@ -1,5 +1,6 @@
 #include "viewer/graph_results.h"
 
+#include <algorithm>
 #include <iterator>
 
 #include "network/graph_file_io.h"
@@ -49,9 +50,18 @@ void write_saved_vector(std::ostream& out, int first, const vector& v) {
 
 }  // namespace
 
+bool locations_place_nodes(const graph_scene& scene) {
+  // Nodes read from "NC" lines may stand in the list without coordinates (an adjacency by name
+  // leaves them there): such a list does not place the nodes either.
+  const bool placed = std::all_of(scene.locations->begin(), scene.locations->end(),
+                                  [](const location& l) { return l.dim() >= 2; });
+  return placed &&
+         scene.locations->size() == static_cast<std::size_t>(scene.graph->number_of_nodes());
+}
+
 std::vector<point> node_positions(const graph_scene& scene) {
   const location_graph& g = *scene.graph;
-  if (scene.locations->size() == static_cast<std::size_t>(g.number_of_nodes())) {
+  if (locations_place_nodes(scene)) {
     std::vector<point> at;
     for (const location& l : *scene.locations) at.emplace_back(l.coordinate(0), l.coordinate(1));
     return at;

@@ -14,6 +14,8 @@ namespace mero {
 // The node positions the viewer draws with: the locations when there is one for each node,
 // otherwise the layout of the graph (a file of "NC" nodes).
 std::vector<point> node_positions(const graph_scene& scene);
+// True when the locations give every node a place.
+bool locations_place_nodes(const graph_scene& scene);
 
 // One objective: a line for each optimum with its node numbers (from 1), its position on an edge,
 // the coordinates of the point and the value. Q criteria: a line for each piece with its

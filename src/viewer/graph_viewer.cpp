@@ -191,7 +191,7 @@ void draw_result_graph(window& w, const graph_scene& s, const std::vector<point>
   // A graph laid out by the viewer fills a disc more or less evenly, about span / sqrt(n) per
   // node; its marks stay within a quarter of that, and a large one gets small labels, so that a
   // graph of hundreds of nodes can still be read.
-  const bool laid_out = s.locations->size() != positions.size();
+  const bool laid_out = !locations_place_nodes(s);
   if (laid_out && !positions.empty())
     half = std::min(half, 0.25 * f.span / std::sqrt(static_cast<double>(positions.size())));
   const text_font old_font =

@@ -121,6 +121,17 @@ dominate each other.
   Node[1] (        3.000,        2.000)
   Node[2] (        2.000,        3.000)
 
+Nodes without coordinates joined by name (the village tree) are laid out as well: five node
+marks, red marks on hub and east, the whole road between them in red, and the legend.
+
+  $ $MERO -a abs_tree_median -g $EXAMPLES/village_tree.graph --output=nowindowed --picture=tree.svg > /dev/null
+  $ python3 marks.py tree.svg | grep -v text
+  MERO VERSION 2.0   View Graphics
+  5 polygon #0000e0
+  3 polygon #e00000
+  4 polyline none #000000
+  1 polyline none #e00000
+
 An empty graph has no optimum: the picture holds the legend alone, the results no line.
 
   $ printf 'begin {merograph}\nbegin {location} [2,1]\nend {location}\nbegin {adjlist}\nend {adjlist}\nend {merograph}\n' > empty.graph
