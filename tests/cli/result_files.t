@@ -50,6 +50,21 @@ legend with its text.
   Node[4] (       13.000,       11.000)
   Node[4] (        7.000,       20.000)
 
+The lexicographic numbers are shown with their pieces and vectors too. The columns of the ring
+by hand (road lengths 4, 3, 4, 3): Aston (7, 20), Berwick (3*4 + 1*3, 3 + 0 + 3*7) = (15, 24),
+Carden (3*7, 3 + 3*4) = (21, 15), Dunmore (13, 11). The first criterion first gives Aston, the
+second first Dunmore.
+
+  $ $MERO -a loc_medLexi -g $EXAMPLES/two_criteria_square.graph --output=nowindowed --results=lexi.txt > /dev/null
+  $ sed -n '/begin {results}/,$p' lexi.txt
+  begin {results}
+  Node[1]
+  Node[4]
+  end {results}
+  OBJECTIVE VALUES: 
+  Node[1] (        7.000,       20.000)
+  Node[4] (       13.000,       11.000)
+
 Six villages, four depots, North and Centre open (value 48): six demand discs, four depot squares,
 a red ring and "=Opt" at each open depot, and one grey line from each village to its depot.
 
