@@ -91,8 +91,9 @@ std::vector<point> classical_scaling(const std::vector<std::vector<double>>& d) 
     axes.push_back(v);
     scales.push_back(std::sqrt(std::max(eigen, 1e-6)));
   }
-  // Nodes with equal distance rows (two leaves of one node) get equal places here and the update
-  // below would never part them; a small fixed shift of each node parts them.
+  // Nodes whose distances differ only to each other (two leaves of one node) may get equal places
+  // when their difference is not among the two leading directions, and the update below would
+  // never part them; a small fixed shift of each node parts them.
   std::vector<point> start(n);
   for (std::size_t i = 0; i < n; ++i)
     start[i] = point(axes[0][i] * scales[0] + 0.05 * std::sin(12.9898 * (i + 1)),
