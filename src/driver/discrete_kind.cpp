@@ -2,7 +2,6 @@
 
 #include "discrete/discrete_file.h"
 #include "driver/problem_kind.h"
-#include "driver/driver_messages.h"
 #include "driver/run_context.h"
 #include "driver/viewer_hooks.h"
 
@@ -33,16 +32,11 @@ void show_discrete(run_context& ctx) {
 }
 
 void picture_discrete(run_context& ctx, const std::string& path) {
-  if (!installed_viewers().picture_discrete) return;
-  if (!installed_viewers().picture_discrete(scene_of(ctx), path))
-    report_error(driver_messages::picture_unwritable, {path});
+  write_scene_picture(installed_viewers().picture_discrete, scene_of(ctx), path);
 }
 
 void results_discrete(run_context& ctx, const std::string& path) {
-  const auto write = installed_viewers().results_discrete;
-  if (!write) return;
-  const discrete_scene scene = scene_of(ctx);
-  write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+  write_scene_results(installed_viewers().results_discrete, scene_of(ctx), path);
 }
 
 }  // namespace

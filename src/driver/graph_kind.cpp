@@ -55,16 +55,11 @@ void show_graph(run_context& ctx) {
 }
 
 void picture_graph(run_context& ctx, const std::string& path) {
-  if (!installed_viewers().picture_graph) return;
-  if (!installed_viewers().picture_graph(scene_of(ctx), path))
-    report_error(driver_messages::picture_unwritable, {path});
+  write_scene_picture(installed_viewers().picture_graph, scene_of(ctx), path);
 }
 
 void results_graph(run_context& ctx, const std::string& path) {
-  const auto write = installed_viewers().results_graph;
-  if (!write) return;
-  const graph_scene scene = scene_of(ctx);
-  write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+  write_scene_results(installed_viewers().results_graph, scene_of(ctx), path);
 }
 
 }  // namespace

@@ -64,16 +64,11 @@ void show_planar(run_context& ctx) {
 }
 
 void picture_planar(run_context& ctx, const std::string& path) {
-  if (!installed_viewers().picture_planar) return;
-  if (!installed_viewers().picture_planar(scene_of(ctx), path))
-    report_error(driver_messages::picture_unwritable, {path});
+  write_scene_picture(installed_viewers().picture_planar, scene_of(ctx), path);
 }
 
 void results_planar(run_context& ctx, const std::string& path) {
-  const auto write = installed_viewers().results_planar;
-  if (!write) return;
-  const planar_scene scene = scene_of(ctx);
-  write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+  write_scene_results(installed_viewers().results_planar, scene_of(ctx), path);
 }
 
 }  // namespace

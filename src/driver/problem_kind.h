@@ -12,7 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "driver/driver_messages.h"
 #include "driver/run_request.h"
+#include "kernel/reporters.h"
 
 namespace mero {
 
@@ -54,5 +56,18 @@ void write_objective_value(double value, std::ostream& report);
 
 // Opens path and lets write fill it (--results); a file that cannot be written is error 1516.
 void write_results_file(const std::string& path, const std::function<void(std::ostream&)>& write);
+
+// The picture (--picture) and the results (--results) of a scene through the viewer's installed
+// writer; nothing while no viewer is installed. A picture that cannot be written is error 1515.
+template <typename Scene>
+void write_scene_picture(bool (*draw)(const Scene&, const std::string&), const Scene& scene,
+                         const std::string& path) {
+  if (draw && !draw(scene, path)) report_error(driver_messages::picture_unwritable, {path});
+}
+template <typename Scene>
+void write_scene_results(void (*write)(std::ostream&, const Scene&), const Scene& scene,
+                         const std::string& path) {
+  if (write) write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+}
 
 }  // namespace mero

@@ -189,15 +189,9 @@ void load_discrete_example(const std::string& path, discrete_problem& problem) {
 }
 
 bool load_example_panel(const window& parent, discrete_problem& problem) {
-  std::string file;
-  tk_window panel(0, 0, vm::load_panel);
-  panel.string_item(vm::file_item, file);
-  panel.button(vm::cancel, 0);
-  const int ok = panel.button(vm::ok, 1);
-  panel.display(parent);
-  if (panel.open() != ok) return false;
-  load_discrete_example(file, problem);
-  return true;
+  const std::optional<std::string> file = ask_file(parent, vm::load_panel, "", vm::cancel);
+  if (file) load_discrete_example(*file, problem);
+  return file.has_value();
 }
 
 }  // namespace mero
