@@ -178,6 +178,7 @@ run_request parse_command_line(const std::vector<std::string>& args) {
       // Any other long option is accepted and ignored.
       if (s.compare(2, 6, "output") == 0) p.parse_output(s, i);
       if (s.starts_with("--picture=")) p.request.picture_file = s.substr(10);
+      if (s.starts_with("--results=")) p.request.results_file = s.substr(10);
       continue;
     }
     if (!p.accept(opt, s.substr(std::min<std::size_t>(2, s.size()))))

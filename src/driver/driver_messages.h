@@ -31,6 +31,8 @@ inline constexpr message p_out_of_range{1014, "The value of -p is out of range: 
 
 // --picture names a file that cannot be written; the run ends before its report.
 inline constexpr message picture_unwritable{1515, "Can't write picture file \"%s\""};
+// --results names a file that cannot be written; the run ends before its report.
+inline constexpr message results_unwritable{1516, "Can't write results file \"%s\""};
 
 // A message, not an error: the run goes on.
 inline constexpr message one_location{

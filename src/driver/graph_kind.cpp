@@ -40,18 +40,33 @@ void write_graph_optima(run_context& ctx, std::ostream&) {
   std::cout.flush();
 }
 
+// Numbers 140 to 159 (the lexicographic ones too) are shown with their pieces and vectors.
+graph_scene scene_of(const run_context& ctx) {
+  const int n = ctx.request.algorithm;
+  const bool pieces = n >= 140 && n <= 159;
+  return {ctx.label, &ctx.graph, &ctx.problem, ctx.objective.empty() ? 0.0 : ctx.objective[0],
+          pieces ? &ctx.pareto : nullptr};
+}
+
+void show_graph(run_context& ctx) {
+  const graph_scene scene = scene_of(ctx);
+  const auto show = scene.pareto ? installed_viewers().show_pareto : installed_viewers().show_graph;
+  if (show) show(scene);
+}
+
 void picture_graph(run_context& ctx, const std::string& path) {
-  if (!installed_viewers().picture_graph) return;
-  const graph_scene scene{ctx.label, &ctx.graph, &ctx.problem};
-  if (!installed_viewers().picture_graph(scene, path))
-    report_error(driver_messages::picture_unwritable, {path});
+  write_scene_picture(installed_viewers().picture_graph, scene_of(ctx), path);
+}
+
+void results_graph(run_context& ctx, const std::string& path) {
+  write_scene_results(installed_viewers().results_graph, scene_of(ctx), path);
 }
 
 }  // namespace
 
 problem_kind graph_kind() {
-  return {is_graph_request, load_graph,    criteria, write_graph_value, write_graph_optima,
-          nullptr,          picture_graph};
+  return {is_graph_request, load_graph, criteria,     write_graph_value, write_graph_optima,
+          show_graph,       picture_graph, results_graph};
 }
 
 }  // namespace mero

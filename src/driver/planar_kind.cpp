@@ -64,9 +64,11 @@ void show_planar(run_context& ctx) {
 }
 
 void picture_planar(run_context& ctx, const std::string& path) {
-  if (!installed_viewers().picture_planar) return;
-  if (!installed_viewers().picture_planar(scene_of(ctx), path))
-    report_error(driver_messages::picture_unwritable, {path});
+  write_scene_picture(installed_viewers().picture_planar, scene_of(ctx), path);
+}
+
+void results_planar(run_context& ctx, const std::string& path) {
+  write_scene_results(installed_viewers().results_planar, scene_of(ctx), path);
 }
 
 }  // namespace
@@ -77,13 +79,13 @@ void write_objective_value(double value, std::ostream& report) {
 
 problem_kind planar_kind() {
   return {any_request,        load_locations, weight_columns, write_planar_value,
-          write_results,      show_planar,    picture_planar};
+          write_results,      show_planar,    picture_planar, results_planar};
 }
 
 // A location file of the "GaugeLoc" type, given with a gauge file.
 problem_kind gauge_kind() {
   return {has_gauge_file,   load_gauge_locations, weight_columns, write_situation_value,
-          write_situations, show_planar,          picture_planar};
+          write_situations, show_planar,          picture_planar, results_planar};
 }
 
 }  // namespace mero

@@ -1,5 +1,10 @@
 #include "driver/problem_kind.h"
 
+#include <fstream>
+
+#include "driver/driver_messages.h"
+#include "kernel/reporters.h"
+
 namespace mero {
 
 const problem_kind& kind_of(const run_request& request) {
@@ -8,6 +13,13 @@ const problem_kind& kind_of(const run_request& request) {
   for (const problem_kind& kind : kinds)
     if (kind.selects(request)) return kind;
   return kinds.back();
+}
+
+void write_results_file(const std::string& path, const std::function<void(std::ostream&)>& write) {
+  std::ofstream out(path);
+  if (!out) report_error(driver_messages::results_unwritable, {path});
+  write(out);
+  if (!out.flush()) report_error(driver_messages::results_unwritable, {path});
 }
 
 }  // namespace mero

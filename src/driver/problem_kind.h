@@ -7,11 +7,14 @@
 // src/driver/<kind>_kind.cpp.
 
 #include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
+#include "driver/driver_messages.h"
 #include "driver/run_request.h"
+#include "kernel/reporters.h"
 
 namespace mero {
 
@@ -33,6 +36,9 @@ struct problem_kind {
   // Writes the picture the viewer would show first to path (--picture); null while the kind has
   // no viewer.
   void (*picture)(run_context& ctx, const std::string& path) = nullptr;
+  // Writes what the viewer's "Save Results" writes to path (--results); null while the kind has
+  // no viewer.
+  void (*results)(run_context& ctx, const std::string& path) = nullptr;
 };
 
 problem_kind gauge_kind();
@@ -47,5 +53,21 @@ const problem_kind& kind_of(const run_request& request);
 // The value block of planar problems, which graph problems share:
 // "begin {objective value} ", the value, "end {objective value}", each on its own line.
 void write_objective_value(double value, std::ostream& report);
+
+// Opens path and lets write fill it (--results); a file that cannot be written is error 1516.
+void write_results_file(const std::string& path, const std::function<void(std::ostream&)>& write);
+
+// The picture (--picture) and the results (--results) of a scene through the viewer's installed
+// writer; nothing while no viewer is installed. A picture that cannot be written is error 1515.
+template <typename Scene>
+void write_scene_picture(bool (*draw)(const Scene&, const std::string&), const Scene& scene,
+                         const std::string& path) {
+  if (draw && !draw(scene, path)) report_error(driver_messages::picture_unwritable, {path});
+}
+template <typename Scene>
+void write_scene_results(void (*write)(std::ostream&, const Scene&), const Scene& scene,
+                         const std::string& path) {
+  if (write) write_results_file(path, [&](std::ostream& out) { write(out, scene); });
+}
 
 }  // namespace mero

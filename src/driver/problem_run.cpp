@@ -50,6 +50,11 @@ void write_picture(run_context& ctx, const problem_kind& kind) {
   if (!ctx.request.picture_file.empty() && kind.picture) kind.picture(ctx, ctx.request.picture_file);
 }
 
+// What "Save Results" would write, before the window and the report for the same reason.
+void write_results(run_context& ctx, const problem_kind& kind) {
+  if (!ctx.request.results_file.empty() && kind.results) kind.results(ctx, ctx.request.results_file);
+}
+
 void show_window(run_context& ctx, const problem_kind& kind) {
   if (!ctx.request.windowed) return;
   std::cout << "Open Window" << std::endl << std::endl;
@@ -81,6 +86,7 @@ void run_problem(const run_request& request) {
   ctx.objective.resize(kind.objective_size(ctx));
   solve(ctx);
   write_picture(ctx, kind);
+  write_results(ctx, kind);
   show_window(ctx, kind);
   write_report(ctx, kind, out);
 }

@@ -17,6 +17,7 @@ struct run_request {
   std::string gauge_file;
   std::string output_file;  // empty: the report goes to standard output
   std::string picture_file;  // --picture=FILE: the viewer's first picture as SVG; empty: none
+  std::string results_file;  // --results=FILE: what the viewer's "Save Results" writes; empty: none
   // The p of -p, for solvers that fall back to what -p writes when lpinfo cannot be read.
   std::optional<int> p;
   bool windowed = true;

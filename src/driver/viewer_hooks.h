@@ -1,10 +1,12 @@
 #pragma once
 // The result viewers draw through the window layer, which libmero does not link; the program
 // installs them here at its start (as it installs the windowed faces of the reporters). Without
-// them a windowed run only announces its window and --picture writes nothing.
+// them a windowed run only announces its window and --picture and --results write nothing.
 
+#include <ostream>
 #include <string>
 
+#include "viewer/discrete_scene.h"
 #include "viewer/graph_scene.h"
 #include "viewer/planar_scene.h"
 
@@ -17,6 +19,16 @@ struct viewer_hooks {
   bool (*picture_planar)(const planar_scene& scene, const std::string& path) = nullptr;
   // The same for a result on a graph.
   bool (*picture_graph)(const graph_scene& scene, const std::string& path) = nullptr;
+  // The viewers of results on graphs with one objective and with Q criteria, and the discrete
+  // viewer with its picture.
+  void (*show_graph)(const graph_scene& scene) = nullptr;
+  void (*show_pareto)(const graph_scene& scene) = nullptr;
+  void (*show_discrete)(const discrete_scene& scene) = nullptr;
+  bool (*picture_discrete)(const discrete_scene& scene, const std::string& path) = nullptr;
+  // What each viewer's "Save Results" writes.
+  void (*results_planar)(std::ostream& out, const planar_scene& scene) = nullptr;
+  void (*results_graph)(std::ostream& out, const graph_scene& scene) = nullptr;
+  void (*results_discrete)(std::ostream& out, const discrete_scene& scene) = nullptr;
 };
 
 viewer_hooks& installed_viewers();

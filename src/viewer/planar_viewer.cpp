@@ -166,11 +166,7 @@ void save_results(const window& parent, const planar_scene& scene) {
     show_panel_text(parent, vm::save_panel, {format_message(vm::cannot_open_save, {file})});
     return;
   }
-  write_locations(out, *scene.problem);
-  out << "begin {classification}\n" << scene.label << "\nend {classification}\n";
-  out << "begin {result}\n";
-  location::WriteAsPolygonList(out, *scene.results);
-  out << "end {result}\n";
+  write_planar_results(out, scene);
   if (!out.flush()) report_error(vm::save_failed);
 }
 
@@ -212,6 +208,14 @@ std::vector<std::string> result_lines(const planar_scene& scene) {
 }
 
 }  // namespace
+
+void write_planar_results(std::ostream& out, const planar_scene& scene) {
+  write_locations(out, *scene.problem);
+  out << "begin {classification}\n" << scene.label << "\nend {classification}\n";
+  out << "begin {result}\n";
+  location::WriteAsPolygonList(out, *scene.results);
+  out << "end {result}\n";
+}
 
 std::string viewer_title(const std::string& label) { return std::string(vm::title_prefix) + label; }
 

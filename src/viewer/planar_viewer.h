@@ -4,6 +4,7 @@
 // picture written as an SVG document without a screen.
 
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,10 @@ struct planar_slots {
 // with names (and weights if show_weights) and the unit balls of their gauges, the restrictions
 // and barriers, the hull, the situations.
 void draw_planar_result(window& w, const planar_slots& slots);
+
+// What "Save Results" writes: the locations in the form of the location file, the classification
+// and the result block as in the report.
+void write_planar_results(std::ostream& out, const planar_scene& scene);
 
 // Opens the viewer on the screen and returns when the user closes it; returns at once when no
 // window can be shown. 1514 when there is no location.

@@ -50,6 +50,53 @@ inline constexpr const char* results_rule = "------------------------------";
 inline constexpr const char* first_row = "(%8.3lf ,%8.3lf )            %13.3lf";
 inline constexpr const char* further_row = "(%8.3lf ,%8.3lf )";
 
+// The graph result viewers: titles, the headings of their result texts, the two toggles.
+inline constexpr const char* graph_title = "MERO VERSION 2.0   View Graphics";
+inline constexpr const char* pareto_title =
+    "MERO VERSION 2.0   View Graphics for Q-criterial problems";
+inline constexpr const char* graph_heading = "OPTIMUM:                            OBJECTIVE VALUE:";
+inline constexpr const char* pareto_heading = "OPTIMUM:\tOBJECTIVE VECTOR(S):";
+inline constexpr const char* show_node_weights = "Show Node_weights";
+inline constexpr const char* show_edge_weights = "Show Edge_weights";
+inline constexpr const char* default_save_file = "results";
+inline constexpr const char* legend_text = "=Opt";
+inline constexpr const char* graph_weight = "%5.2lf";
+// The lines of "View Results" on a graph.
+inline constexpr const char* node_text = "Node [%d";
+inline constexpr const char* edge_text = "Edge [%d";
+inline constexpr const char* second_node_text = "][%d";
+inline constexpr const char* position_text = "] %4.2lf";
+inline constexpr const char* graph_row = "(%8.3lf ,%8.3lf)           %13.3lf";
+inline constexpr const char* vector_entry = "%8.3lf,";
+inline constexpr const char* vector_end = "%8.3lf)";
+inline constexpr const char* stretch_text = "(%8.3lf, %8.3lf):";
+inline constexpr const char* vector_und = "%8.3lf) und (";
+// The saved file of a result on a graph.
+inline constexpr const char* results_begin = "begin {results}";
+inline constexpr const char* results_end = "end {results}";
+inline constexpr const char* saved_node = "Node[";
+inline constexpr const char* saved_edge = "Edge[";
+inline constexpr const char* saved_value = "OBJECTIVE VALUE: \n";
+inline constexpr const char* saved_values = "OBJECTIVE VALUES: \n";
+inline constexpr const char* saved_number = "%13.3lf";
+inline constexpr const char* saved_entry = "%13.3lf,";
+inline constexpr const char* saved_end = "%13.3lf)";
+
+// The discrete result viewer.
+inline constexpr message example_unreadable{3104, "Can't open file"};
+inline constexpr const char* discrete_title = "MERO VERSION 2.0    View Graphics";
+inline constexpr const char* view_cost_matrix = "View Cost Matrix";
+inline constexpr const char* show_hide_demand = "Show/Hide Demand";
+inline constexpr const char* show_hide_fix_costs = "Show/Hide Fix Costs";
+inline constexpr const char* cancel_upper = "Cancel";
+inline constexpr const char* cost_panel = "Cost matrix";
+inline constexpr const char* load_panel = "Load Example";
+inline constexpr const char* discrete_header = "%-21s        %-13s";
+inline constexpr const char* discrete_value = "%13.2lf";
+inline constexpr const char* discrete_row = "(%8.2lf, %8.2lf)           %13.2lf";
+inline constexpr const char* discrete_row_alone = "(%8.2lf,  %8.2lf)";
+inline constexpr const char* discrete_number = "%8.2lf";
+
 // The picture's texts.
 inline constexpr const char* axis_label = "%3.1lf";
 inline constexpr const char* first_weight = "%1.2lf";
