@@ -45,12 +45,14 @@ void write_situations(run_context& ctx, std::ostream& report) {
   location::WriteAsPolygonList(report, ctx.situations);
 }
 
-planar_scene scene_of(run_context& ctx) {
+// The viewer shows results as the optima; a gauge problem's optima stand in situations, which
+// then take the place of results.
+planar_scene scene_of(run_context& ctx, const std::list<location>& results) {
   planar_scene scene;
   scene.label = ctx.label;
   scene.value = ctx.objective.empty() ? 0.0 : ctx.objective[0];
   scene.problem = &ctx.problem;
-  scene.results = &ctx.results;
+  scene.results = &results;
   scene.restrictions = &ctx.restrictions;
   scene.situations = &ctx.situations;
   scene.gauges = &ctx.gauges;
@@ -59,16 +61,25 @@ planar_scene scene_of(run_context& ctx) {
   return scene;
 }
 
-void show_planar(run_context& ctx) {
-  if (installed_viewers().show_planar) installed_viewers().show_planar(scene_of(ctx));
+void show_scene(const planar_scene& scene) {
+  if (installed_viewers().show_planar) installed_viewers().show_planar(scene);
 }
 
+void show_planar(run_context& ctx) { show_scene(scene_of(ctx, ctx.results)); }
+void show_gauge(run_context& ctx) { show_scene(scene_of(ctx, ctx.situations)); }
+
 void picture_planar(run_context& ctx, const std::string& path) {
-  write_scene_picture(installed_viewers().picture_planar, scene_of(ctx), path);
+  write_scene_picture(installed_viewers().picture_planar, scene_of(ctx, ctx.results), path);
+}
+void picture_gauge(run_context& ctx, const std::string& path) {
+  write_scene_picture(installed_viewers().picture_planar, scene_of(ctx, ctx.situations), path);
 }
 
 void results_planar(run_context& ctx, const std::string& path) {
-  write_scene_results(installed_viewers().results_planar, scene_of(ctx), path);
+  write_scene_results(installed_viewers().results_planar, scene_of(ctx, ctx.results), path);
+}
+void results_gauge(run_context& ctx, const std::string& path) {
+  write_scene_results(installed_viewers().results_planar, scene_of(ctx, ctx.situations), path);
 }
 
 }  // namespace
@@ -85,7 +96,7 @@ problem_kind planar_kind() {
 // A location file of the "GaugeLoc" type, given with a gauge file.
 problem_kind gauge_kind() {
   return {has_gauge_file,   load_gauge_locations, weight_columns, write_situation_value,
-          write_situations, show_planar,          picture_planar, results_planar};
+          write_situations, show_gauge,           picture_gauge,  results_gauge};
 }
 
 }  // namespace mero

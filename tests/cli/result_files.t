@@ -182,6 +182,15 @@ The planar viewer's "Save Results" form: the locations, the classification and t
   end {polygonlist}
   end {result}
 
+A gauge problem's optima stand in its situations, which the viewer shows in place of the
+results: the saved result holds the same polygon list as the report.
+
+  $ $MERO -a gauge_median -l $EXAMPLES/gauge_sites.loc -d $EXAMPLES/two_gauges.gauge --output=nowindowed --results=gauge.txt > report.txt
+  $ sed -n '/^begin {polygonlist}/,/^end {polygonlist}/p' report.txt > report_optima.txt
+  $ sed -n '/^begin {result}/,$p' gauge.txt | sed -n '/^begin {polygonlist}/,/^end {polygonlist}/p' | diff - report_optima.txt
+  $ grep -c '^begin {polygon}$' gauge.txt
+  1
+
 A results file that cannot be written ends the run before its report.
 
   $ $MERO -a l1_sum -l $EXAMPLES/cities.loc --output=nowindowed --results=no/such/dir/r.txt
