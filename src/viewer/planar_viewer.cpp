@@ -14,6 +14,7 @@
 #include "model/location_file.h"
 #include "viewer/gauge_editor.h"
 #include "viewer/planar_figures.h"
+#include "viewer/printed.h"
 #include "viewer/viewer_messages.h"
 
 namespace mero {
@@ -21,13 +22,6 @@ namespace mero {
 namespace vm = viewer_messages;
 
 namespace {
-
-template <typename... Args>
-std::string printed(const char* format, Args... args) {
-  char text[256];
-  std::snprintf(text, sizeof text, format, args...);
-  return text;
-}
 
 // The weights of a location as the picture writes them: "%1.2lf", then ",%1.2lf" per column.
 std::string weight_text(const location& l) {
