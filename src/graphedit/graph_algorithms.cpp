@@ -8,60 +8,23 @@
 #include <unordered_map>
 #include <utility>
 
-#include <boost/graph/adjacency_list.hpp>
 #include <boost/graph/biconnected_components.hpp>
 #include <boost/graph/boyer_myrvold_planar_test.hpp>
 #include <boost/graph/chrobak_payne_drawing.hpp>
 #include <boost/graph/fruchterman_reingold.hpp>
 #include <boost/graph/is_kuratowski_subgraph.hpp>
 #include <boost/graph/bipartite.hpp>
-#include <boost/graph/make_biconnected_planar.hpp>
-#include <boost/graph/make_connected.hpp>
-#include <boost/graph/make_maximal_planar.hpp>
 #include <boost/graph/planar_canonical_ordering.hpp>
 #include <boost/graph/random_layout.hpp>
 #include <boost/graph/topology.hpp>
 
+#include "graphedit/boost_graphs.h"
 #include "graphedit/simple_layouts.h"
 #include "kernel/graph_connectivity.h"
 
 namespace mero {
 
 namespace {
-
-using simple_graph = boost::adjacency_list<boost::vecS, boost::vecS, boost::undirectedS>;
-// The graph for the planar drawing needs edge indices.
-using indexed_graph =
-    boost::adjacency_list<boost::vecS, boost::vecS, boost::undirectedS, boost::no_property,
-                          boost::property<boost::edge_index_t, std::size_t>>;
-
-// Each node's place in list order.
-std::unordered_map<node, std::size_t> places(const graph& g) {
-  std::unordered_map<node, std::size_t> at;
-  for (node v = g.first_node(); v != nullptr; v = graph::succ_node(v)) at[v] = at.size();
-  return at;
-}
-
-// The pairs {v, w}, v < w, of the simple undirected graph underneath, in edge order.
-std::vector<std::pair<std::size_t, std::size_t>> simple_pairs(const graph& g) {
-  auto at = places(g);
-  std::set<std::pair<std::size_t, std::size_t>> seen;
-  std::vector<std::pair<std::size_t, std::size_t>> pairs;
-  for (edge e = g.first_edge(); e != nullptr; e = graph::succ_edge(e)) {
-    std::size_t a = at[graph::source(e)], b = at[graph::target(e)];
-    if (a == b) continue;
-    std::pair<std::size_t, std::size_t> p(std::min(a, b), std::max(a, b));
-    if (seen.insert(p).second) pairs.push_back(p);
-  }
-  return pairs;
-}
-
-template <typename G>
-G boost_graph(const graph& g) {
-  G b(static_cast<std::size_t>(g.number_of_nodes()));
-  for (auto [v, w] : simple_pairs(g)) boost::add_edge(v, w, b);
-  return b;
-}
 
 // Connected after taking away the nodes marked gone, over the pairs given.
 bool connected_without(std::size_t n, const std::vector<std::pair<std::size_t, std::size_t>>& pairs,
@@ -290,37 +253,6 @@ void spring_layout(ge_graph& x, double xmin, double ymin, double xmax, double ym
   remove_bends(x);
   fit_into_box(x, xmin, ymin, xmax, ymax);
 }
-
-namespace {
-
-using planar_edge = boost::graph_traits<indexed_graph>::edge_descriptor;
-using planar_embedding = std::vector<std::vector<planar_edge>>;
-
-auto embedding_map(indexed_graph& b, planar_embedding& embedding) {
-  return boost::make_iterator_property_map(embedding.begin(), boost::get(boost::vertex_index, b));
-}
-
-// The simple graph underneath made connected, biconnected and maximal planar (Boost), with its
-// embedding; the graph must be planar and have at least three nodes.
-void maximal_planar(const graph& g, indexed_graph& b, planar_embedding& embedding) {
-  b = boost_graph<indexed_graph>(g);
-  std::size_t n = boost::num_vertices(b);
-  auto embed = [&] {
-    std::size_t k = 0;
-    for (auto [e, end] = boost::edges(b); e != end; ++e) boost::put(boost::edge_index, b, *e, k++);
-    embedding.assign(n, {});
-    boost::boyer_myrvold_planarity_test(boost::boyer_myrvold_params::graph = b,
-                                        boost::boyer_myrvold_params::embedding = embedding.data());
-  };
-  boost::make_connected(b);
-  embed();
-  boost::make_biconnected_planar(b, embedding_map(b, embedding));
-  embed();
-  boost::make_maximal_planar(b, embedding_map(b, embedding));
-  embed();
-}
-
-}  // namespace
 
 bool straight_line_planar_layout(ge_graph& x, double xmin, double ymin, double xmax,
                                  double ymax) {

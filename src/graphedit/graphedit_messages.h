@@ -44,6 +44,10 @@ inline constexpr message bad_option{3536, "Unknown option or missing argument: %
 // The editor.
 inline constexpr message empty_graph{0, "\\bf\\red Empty Graph."};
 inline constexpr message overwrite_graph{0, "\\bf\\blue Overwrite existing graph ?"};
+// The planar layouts' panels; the graph is left as it was.
+inline constexpr message not_planar{0, "The graph is not planar."};
+inline constexpr message degree_above_four{
+    0, "Orthogonal drawings need a graph of maximum degree 4."};
 inline constexpr const char* zoom_not_displayed =
     "GraphEdit::zoom_graph: window has to be displayed.";
 

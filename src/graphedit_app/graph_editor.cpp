@@ -14,6 +14,7 @@
 #include "graphedit/graph_algorithms.h"
 #include "graphedit/graph_convert.h"
 #include "graphedit/graphedit_messages.h"
+#include "graphedit/planar_representations.h"
 #include "graphedit/postscript_writer.h"
 #include "graphedit/simple_layouts.h"
 #include "graphedit_app/screenshot.h"
@@ -201,8 +202,19 @@ void graph_editor::build_menus() {
   auto planar_or_tell = [this](bool (*draw)(ge_graph&, double, double, double, double)) {
     return [this, draw](ge_graph& x, layout_box b) {
       if (draw(x, b.xmin, b.ymin, b.xmax, b.ymax)) return true;
-      tell("Planar Layouts", "The graph is not planar.");
+      tell("Planar Layouts", msg::not_planar.text);
       return false;
+    };
+  };
+  // The layouts that may also refuse a planar graph, with the entry's name on the panel.
+  using representation = planar_layout_status (*)(ge_graph&, double, double, double, double);
+  auto representation_or_tell = [this](const std::string& title, representation draw) {
+    return [this, title, draw](ge_graph& x, layout_box b) {
+      planar_layout_status status = draw(x, b.xmin, b.ymin, b.xmax, b.ymax);
+      if (status == planar_layout_status::not_planar) tell(title, msg::not_planar.text);
+      if (status == planar_layout_status::degree_above_four)
+        tell(title, msg::degree_above_four.text);
+      return status == planar_layout_status::drawn;
     };
   };
 
@@ -413,16 +425,11 @@ void graph_editor::build_menus() {
                 command("Straight-Line (Schnyder)",
                         layout("barycentric", planar_or_tell(barycentric_planar_layout))),
                 command("Orthogonal",
-                        [this] {
-                          tell("Orthogonal", "Orthogonal layouts are not provided by this "
-                                             "editor; the graph is left as it is.");
-                        }),
+                        layout("orthogonal",
+                               representation_or_tell("Orthogonal", orthogonal_layout))),
                 command("Visibility Representation",
-                        [this] {
-                          tell("Visibility Representation",
-                               "Visibility representations are not provided by this editor; "
-                               "the graph is left as it is.");
-                        }),
+                        layout("visibility", representation_or_tell("Visibility Representation",
+                                                                    visibility_layout))),
                 command("Series-Parallel",
                         layout("sp",
                                [this](ge_graph& x, layout_box b) {
