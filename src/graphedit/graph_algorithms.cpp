@@ -216,10 +216,14 @@ int make_bidirected(graph& g) {
   return added;
 }
 
-void fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
+double fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
   std::vector<node> nodes = x.g.all_nodes();
-  if (nodes.empty()) return;
+  if (nodes.empty()) return 1;
   layout_box from = position_box(x);
+  for (edge e = x.g.first_edge(); e != nullptr; e = graph::succ_edge(e))
+    for (const point& p : x.g.inf(e).bends)
+      from = {std::min(from.xmin, p.xcoord()), std::min(from.ymin, p.ycoord()),
+              std::max(from.xmax, p.xcoord()), std::max(from.ymax, p.ycoord())};
   double lx = from.xmin, ly = from.ymin, hx = from.xmax, hy = from.ymax;
   double w = hx - lx, h = hy - ly;
   double scale = std::min(w > 0 ? (xmax - xmin) / w : 1e300, h > 0 ? (ymax - ymin) / h : 1e300);
@@ -232,6 +236,7 @@ void fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double yma
   for (edge e = x.g.first_edge(); e != nullptr; e = graph::succ_edge(e))
     for (point& p : x.g.inf(e).bends)
       p = point(cx + (p.xcoord() - (lx + hx) / 2) * scale, cy + (p.ycoord() - (ly + hy) / 2) * scale);
+  return scale;
 }
 
 void spring_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax,

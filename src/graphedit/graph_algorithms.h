@@ -63,8 +63,9 @@ bool barycentric_planar_layout(ge_graph& x, double xmin, double ymin, double xma
 // projected onto the drawing plane.
 void spring_layout_3d(ge_graph& x, double xmin, double ymin, double xmax, double ymax,
                       unsigned seed);
-// Moves the nodes so that their positions fill the box, keeping the aspect ratio.
-void fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax);
+// Moves the nodes and bends so that together they fill the box, keeping the aspect ratio;
+// returns the factor by which the drawing was scaled.
+double fit_into_box(ge_graph& x, double xmin, double ymin, double xmax, double ymax);
 // The faces of the map of the simple undirected graph whose rotation at each node is the order
 // of its edges by angle in the drawing ("edges by angle"): each face as its cycle of node places
 // in list order, from 0. A plane drawing of a connected graph has m - n + 2 of them.

@@ -305,6 +305,19 @@ void draw_routes(ge_graph& x, const std::vector<point>& at,
   }
 }
 
+// Fits the grid drawing into the box and makes the nodes at most 0.4 grid units wide and high
+// about their centres: a node then covers neither its own edges' nearest corners nor any other
+// node or edge, which all keep at least one unit away. A lone node keeps its size.
+void fit_grid_drawing(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
+  double unit = fit_into_box(x, xmin, ymin, xmax, ymax);
+  if (x.g.number_of_nodes() < 2) return;
+  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v)) {
+    ge_node& a = x.g.inf(v);
+    a.radius1 = std::min(a.radius1, 0.4 * unit);
+    a.radius2 = std::min(a.radius2, 0.4 * unit);
+  }
+}
+
 }  // namespace
 
 planar_layout_status visibility_layout(ge_graph& x, double xmin, double ymin, double xmax,
@@ -321,7 +334,7 @@ planar_layout_status visibility_layout(ge_graph& x, double xmin, double ymin, do
         {at[v], point(r->column[k], r->row[v]), point(r->column[k], r->row[w]), at[w]}));
   }
   draw_routes(x, at, r->ends, route);
-  fit_into_box(x, xmin, ymin, xmax, ymax);
+  fit_grid_drawing(x, xmin, ymin, xmax, ymax);
   return planar_layout_status::drawn;
 }
 
@@ -334,7 +347,7 @@ planar_layout_status orthogonal_layout(ge_graph& x, double xmin, double ymin, do
     if (++degree[v] > 4 || ++degree[w] > 4) return planar_layout_status::degree_above_four;
   orthogonal_drawing d = make_orthogonal_drawing(*r);
   draw_routes(x, d.at, d.ends, d.route);
-  fit_into_box(x, xmin, ymin, xmax, ymax);
+  fit_grid_drawing(x, xmin, ymin, xmax, ymax);
   return planar_layout_status::drawn;
 }
 

@@ -39,6 +39,12 @@ Test > planar on K5 shows its panel; "&done" then ends the editor with 0.
   $ cat out.txt
   Test: The graph is not planar.
 
+The orthogonal layout refuses K5 with its panel and leaves the graph.
+
+  $ timeout 120 $GRAPHEDIT --press 'Layout>Planar Layouts>Orthogonal' --press done k5.gml > out.txt &
+  $ answer Orthogonal; wait $!; cat out.txt
+  Orthogonal: The graph is not planar.
+
 Without the edge 4-5 the graph is planar, and "Make biconnected" has nothing to add.
 
   $ grep -v 'source 4 target 5' k5.gml > k5-e.gml
