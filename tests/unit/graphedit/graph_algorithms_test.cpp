@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "graphedit/generators.h"
+#include "sample_graphs.h"
 #include "kernel/segment.h"
 
 namespace mero {
@@ -12,19 +13,13 @@ namespace {
 
 using pairs = std::vector<std::pair<int, int>>;
 
-ge_graph make(int n, const pairs& edges) {
-  ge_graph x;
-  std::vector<node> v;
-  for (int k = 0; k < n; ++k) v.push_back(x.g.new_node());
-  for (auto [a, b] : edges) x.g.new_edge(v[a], v[b]);
-  return x;
-}
+using testing::graph_of;
 
 ge_graph complete(int n) {
   pairs e;
   for (int a = 0; a < n; ++a)
     for (int b = a + 1; b < n; ++b) e.emplace_back(a, b);
-  return make(n, e);
+  return graph_of(n, e);
 }
 
 // The eight tests on one graph, in the menu's order but for "bidirected".
@@ -42,27 +37,27 @@ TEST(GraphTests, KnownGraphs) {
   pairs k33;
   for (int a = 0; a < 3; ++a)
     for (int b = 3; b < 6; ++b) k33.emplace_back(a, b);
-  EXPECT_EQ(answers(make(6, k33).g), (std::vector<bool>{T, T, T, T, T, F, F}));
-  ge_graph c5 = make(5, {{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 0}});
+  EXPECT_EQ(answers(graph_of(6, k33).g), (std::vector<bool>{T, T, T, T, T, F, F}));
+  ge_graph c5 = graph_of(5, {{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 0}});
   EXPECT_EQ(answers(c5.g), (std::vector<bool>{T, F, T, T, F, T, T}));
-  ge_graph c6 = make(6, {{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}, {5, 0}});
+  ge_graph c6 = graph_of(6, {{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}, {5, 0}});
   EXPECT_TRUE(is_bipartite(c6.g));
-  ge_graph tree = make(5, {{0, 1}, {1, 2}, {1, 3}, {3, 4}});
+  ge_graph tree = graph_of(5, {{0, 1}, {1, 2}, {1, 3}, {3, 4}});
   EXPECT_EQ(answers(tree.g), (std::vector<bool>{T, T, T, F, F, T, T}));
   ge_graph grid;
   grid_graph(grid, 3, 3, {});
   EXPECT_EQ(answers(grid.g), (std::vector<bool>{T, T, T, T, F, F, T}));
   // Two triangles apart, and a loop with a parallel edge.
-  ge_graph apart = make(6, {{0, 1}, {1, 2}, {2, 0}, {3, 4}, {4, 5}, {5, 3}});
+  ge_graph apart = graph_of(6, {{0, 1}, {1, 2}, {2, 0}, {3, 4}, {4, 5}, {5, 3}});
   EXPECT_EQ(answers(apart.g), (std::vector<bool>{T, F, F, F, F, T, T}));
-  ge_graph multi = make(3, {{0, 1}, {0, 1}, {1, 2}, {2, 2}});
+  ge_graph multi = graph_of(3, {{0, 1}, {0, 1}, {1, 2}, {2, 2}});
   EXPECT_FALSE(is_simple(multi.g));
   EXPECT_FALSE(is_bipartite(multi.g));  // the loop is an odd cycle
   EXPECT_TRUE(is_series_parallel(multi.g));
 }
 
 TEST(GraphTests, BidirectedNeedsEveryEdgeBothWays) {
-  ge_graph x = make(3, {{0, 1}, {1, 0}, {1, 2}, {2, 1}});
+  ge_graph x = graph_of(3, {{0, 1}, {1, 0}, {1, 2}, {2, 1}});
   EXPECT_TRUE(is_bidirected(x.g));
   x.g.new_edge(x.g.first_node(), x.g.last_node());
   EXPECT_FALSE(is_bidirected(x.g));
@@ -70,25 +65,25 @@ TEST(GraphTests, BidirectedNeedsEveryEdgeBothWays) {
 }
 
 TEST(GraphMakes, RepairsGiveWhatTheTestsAsk) {
-  ge_graph multi = make(3, {{0, 1}, {0, 1}, {1, 2}, {2, 2}, {1, 2}});
+  ge_graph multi = graph_of(3, {{0, 1}, {0, 1}, {1, 2}, {2, 2}, {1, 2}});
   EXPECT_EQ(make_simple(multi.g), 3);
   EXPECT_EQ(multi.g.number_of_edges(), 2);
   EXPECT_TRUE(is_simple(multi.g));
 
-  ge_graph apart = make(7, {{0, 1}, {1, 2}, {3, 4}});  // three components and two lone nodes
+  ge_graph apart = graph_of(7, {{0, 1}, {1, 2}, {3, 4}});  // three components and two lone nodes
   EXPECT_EQ(make_connected(apart.g).size(), 3u);
   EXPECT_TRUE(is_connected(apart.g));
 
   // A path of five nodes has three articulation points; a star of four has one, with three
   // blocks, so it needs two edges.
-  ge_graph path = make(5, {{0, 1}, {1, 2}, {2, 3}, {3, 4}});
+  ge_graph path = graph_of(5, {{0, 1}, {1, 2}, {2, 3}, {3, 4}});
   make_biconnected(path.g);
   EXPECT_TRUE(is_biconnected(path.g));
-  ge_graph star = make(4, {{0, 1}, {0, 2}, {0, 3}});
+  ge_graph star = graph_of(4, {{0, 1}, {0, 2}, {0, 3}});
   EXPECT_EQ(make_biconnected(star.g), 2);
   EXPECT_TRUE(is_biconnected(star.g));
 
-  ge_graph cycle = make(3, {{0, 1}, {1, 2}, {2, 0}, {1, 0}});
+  ge_graph cycle = graph_of(3, {{0, 1}, {1, 2}, {2, 0}, {1, 0}});
   EXPECT_EQ(make_bidirected(cycle.g), 2);  // (1, 0) pairs with (0, 1); two new edges
   EXPECT_TRUE(is_bidirected(cycle.g));
   for (edge e = cycle.g.first_edge(); e != nullptr; e = graph::succ_edge(e)) {

@@ -11,19 +11,14 @@
 
 #include "graphedit/generators.h"
 #include "graphedit/graph_algorithms.h"
+#include "sample_graphs.h"
 
 namespace mero {
 namespace {
 
 using pairs = std::vector<std::pair<int, int>>;
 
-ge_graph make(int n, const pairs& edges) {
-  ge_graph x;
-  std::vector<node> v;
-  for (int k = 0; k < n; ++k) v.push_back(x.g.new_node());
-  for (auto [a, b] : edges) x.g.new_edge(v[a], v[b]);
-  return x;
-}
+using testing::graph_of;
 
 std::map<node, int> numbers(const graph& g) {
   std::map<node, int> at;
@@ -189,17 +184,17 @@ TEST(PlanarRepresentations, KnownGraphs) {
   pairs wheel{{0, 1}, {0, 2}, {0, 3}, {0, 4}, {0, 5}, {1, 2}, {2, 3}, {3, 4}, {4, 5}, {5, 1}};
   for (auto [n, edges] : {std::pair(6, octahedron), std::pair(8, cube), std::pair(4, k4),
                           std::pair(11, tree), std::pair(7, cycle), std::pair(6, wheel)}) {
-    ge_graph x = make(n, edges);
+    ge_graph x = graph_of(n, edges);
     check_both(x, max_degree(x.g) <= 4);
   }
   ge_graph grid;
   grid_graph(grid, 5, 6, {});
   check_both(grid, true);
   // Small and empty graphs, two components and a lone node.
-  check_both(make(0, {}), true);
-  check_both(make(1, {}), true);
-  check_both(make(2, {{0, 1}}), true);
-  check_both(make(7, {{0, 1}, {1, 2}, {2, 0}, {3, 4}, {4, 5}}), true);
+  check_both(graph_of(0, {}), true);
+  check_both(graph_of(1, {}), true);
+  check_both(graph_of(2, {{0, 1}}), true);
+  check_both(graph_of(7, {{0, 1}, {1, 2}, {2, 0}, {3, 4}, {4, 5}}), true);
 }
 
 // Random maximal planar graphs (stacked triangles) and random plane geometric graphs, with
@@ -239,14 +234,14 @@ TEST(PlanarRepresentations, LayoutsRefuseAndLeaveTheGraph) {
     for (int b = 3; b < 6; ++b) k33.emplace_back(a, b);
   for (int b = 1; b <= 5; ++b) star.emplace_back(0, b);
   for (const auto& [n, edges] : {std::pair(5, k5), std::pair(6, k33)}) {
-    ge_graph x = make(n, edges);
+    ge_graph x = graph_of(n, edges);
     EXPECT_FALSE(make_visibility_representation(x.g).has_value());
     ge_graph before = x;
     EXPECT_EQ(visibility_layout(x, 0, 0, 100, 100), planar_layout_status::not_planar);
     EXPECT_EQ(orthogonal_layout(x, 0, 0, 100, 100), planar_layout_status::not_planar);
     EXPECT_TRUE(same_drawing(x, before));
   }
-  ge_graph x = make(6, star);
+  ge_graph x = graph_of(6, star);
   x.g.inf(x.g.first_node()).position = point(3, 4);
   ge_graph before = x;
   EXPECT_EQ(orthogonal_layout(x, 0, 0, 100, 100), planar_layout_status::degree_above_four);
@@ -258,7 +253,7 @@ TEST(PlanarRepresentations, LayoutsRefuseAndLeaveTheGraph) {
 // keeps no bends; the visibility drawing's edges are a vertical piece between their nodes' rows
 // with horizontal pieces on those rows only.
 TEST(PlanarRepresentations, EditorDrawings) {
-  ge_graph x = make(4, {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {0, 2}, {2, 0}, {1, 1}});
+  ge_graph x = graph_of(4, {{0, 1}, {1, 2}, {2, 3}, {3, 0}, {0, 2}, {2, 0}, {1, 1}});
   std::vector<edge> e = x.g.all_edges();
   x.g.inf(e[6]).bends = {point(1, 1)};
   ASSERT_EQ(orthogonal_layout(x, 0, 0, 100, 100), planar_layout_status::drawn);
@@ -288,7 +283,7 @@ TEST(PlanarRepresentations, EditorDrawings) {
 
 // The checkers find the faults they are there for, on drawings made by hand.
 TEST(PlanarRepresentations, CheckersRejectBadDrawings) {
-  ge_graph square = make(4, {{0, 2}, {1, 3}});
+  ge_graph square = graph_of(4, {{0, 2}, {1, 3}});
   std::vector<node> v = square.g.all_nodes();
   square.g.inf(v[0]).position = point(0, 1);
   square.g.inf(v[2]).position = point(2, 1);
@@ -302,7 +297,7 @@ TEST(PlanarRepresentations, CheckersRejectBadDrawings) {
   square.g.inf(square.g.first_edge()).bends = {point(0, 3)};
   EXPECT_FALSE(is_orthogonal_drawing(square));  // a slanted piece
 
-  ge_graph triangle = make(3, {{0, 1}, {1, 2}, {0, 2}});
+  ge_graph triangle = graph_of(3, {{0, 1}, {1, 2}, {0, 2}});
   visibility_representation r{{0, 1, 2}, {0, 0, 0}, {0, 0, 0}, {{0, 1}, {1, 2}, {0, 2}}, {0, 0, 0}};
   EXPECT_FALSE(is_visibility_of(r, triangle.g));  // edge 0-2 runs through node 1
   r.column[2] = 1;

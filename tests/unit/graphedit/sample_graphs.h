@@ -1,9 +1,22 @@
 #pragma once
-// Graphs for the file tests: one with a non-default value in every attribute of every kind.
+// Graphs for the tests: any graph from its edge list, and one with a non-default value in
+// every attribute of every kind.
+
+#include <utility>
+#include <vector>
 
 #include "graphedit/ge_graph.h"
 
 namespace mero::testing {
+
+// n nodes and an edge from node a to node b (places in list order) for each pair, in order.
+inline ge_graph graph_of(int n, const std::vector<std::pair<int, int>>& edges) {
+  ge_graph x;
+  std::vector<node> v;
+  for (int k = 0; k < n; ++k) v.push_back(x.g.new_node());
+  for (auto [a, b] : edges) x.g.new_edge(v[a], v[b]);
+  return x;
+}
 
 // Three nodes, four edges (one pair of reversals, a loop), every shape, label kind, anchor,
 // edge shape, style and arrow, bends, and labels with blanks, backslashes, quotes and line ends.
