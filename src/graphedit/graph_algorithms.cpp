@@ -289,53 +289,6 @@ bool straight_line_planar_layout(ge_graph& x, double xmin, double ymin, double x
   return true;
 }
 
-bool barycentric_planar_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax) {
-  std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());
-  if (!is_planar(x.g)) return false;
-  if (n < 4) return straight_line_planar_layout(x, xmin, ymin, xmax, ymax);
-  indexed_graph b;
-  planar_embedding embedding;
-  maximal_planar(x.g, b, embedding);
-  // A face of the triangulation: node 0 and two consecutive neighbours in its rotation.
-  std::size_t f0 = 0;
-  std::size_t f1 = boost::target(embedding[0][0], b) == 0 ? boost::source(embedding[0][0], b)
-                                                          : boost::target(embedding[0][0], b);
-  std::size_t f2 = boost::target(embedding[0][1], b) == 0 ? boost::source(embedding[0][1], b)
-                                                          : boost::target(embedding[0][1], b);
-  std::vector<double> px(n, (xmin + xmax) / 2), py(n, (ymin + ymax) / 2);
-  std::vector<bool> fixed(n, false);
-  px[f0] = (xmin + xmax) / 2;
-  py[f0] = ymax;
-  px[f1] = xmin;
-  py[f1] = ymin;
-  px[f2] = xmax;
-  py[f2] = ymin;
-  fixed[f0] = fixed[f1] = fixed[f2] = true;
-  double tolerance = 1e-6 * std::max(xmax - xmin, ymax - ymin);
-  for (int round = 0; round < 100000; ++round) {
-    double moved = 0;
-    for (std::size_t v = 0; v < n; ++v) {
-      if (fixed[v]) continue;
-      double sx = 0, sy = 0;
-      std::size_t d = 0;
-      for (auto [w, end] = boost::adjacent_vertices(v, b); w != end; ++w, ++d) {
-        sx += px[*w];
-        sy += py[*w];
-      }
-      if (d == 0) continue;
-      moved = std::max(moved, std::hypot(sx / d - px[v], sy / d - py[v]));
-      px[v] = sx / d;
-      py[v] = sy / d;
-    }
-    if (moved <= tolerance) break;
-  }
-  std::size_t k = 0;
-  for (node v = x.g.first_node(); v != nullptr; v = graph::succ_node(v), ++k)
-    x.g.inf(v).position = point(px[k], py[k]);
-  remove_bends(x);
-  return true;
-}
-
 void spring_layout_3d(ge_graph& x, double xmin, double ymin, double xmax, double ymax,
                       unsigned seed) {
   std::size_t n = static_cast<std::size_t>(x.g.number_of_nodes());

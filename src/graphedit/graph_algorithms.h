@@ -53,11 +53,6 @@ void spring_layout(ge_graph& x, double xmin, double ymin, double xmax, double ym
 // made connected, biconnected and maximal planar; the added edges are used only for the drawing.
 // False, and nothing moved, when the graph is not planar.
 bool straight_line_planar_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax);
-// Tutte's barycentric drawing (1963) of the graph made maximal planar as above: the three nodes
-// of one face of the triangulation are fixed on a triangle and every other node is moved to the
-// mean of its neighbours until no node moves by more than a millionth of the box. Planar and
-// straight-line, with convex faces. False, and nothing moved, when the graph is not planar.
-bool barycentric_planar_layout(ge_graph& x, double xmin, double ymin, double xmax, double ymax);
 // The spring embedder in a cube (Boost's cube_topology) seen from a fixed direction: the nodes'
 // places in space turned by 30 degrees about the vertical and 20 about the horizontal axis and
 // projected onto the drawing plane.

@@ -16,6 +16,7 @@
 #include "graphedit/graphedit_messages.h"
 #include "graphedit/planar_representations.h"
 #include "graphedit/postscript_writer.h"
+#include "graphedit/schnyder_drawing.h"
 #include "graphedit/simple_layouts.h"
 #include "graphedit_app/screenshot.h"
 #include "kernel/error_handler.h"
@@ -423,7 +424,7 @@ void graph_editor::build_menus() {
                {command("Straight-Line (Fary/FPP)",
                         layout("fpp", planar_or_tell(straight_line_planar_layout))),
                 command("Straight-Line (Schnyder)",
-                        layout("barycentric", planar_or_tell(barycentric_planar_layout))),
+                        layout("schnyder", planar_or_tell(schnyder_layout))),
                 command("Orthogonal",
                         layout("orthogonal",
                                representation_or_tell("Orthogonal", orthogonal_layout))),
