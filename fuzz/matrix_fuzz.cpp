@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int n = data[0];
   const std::string path =
       fuzz::fuzz_input_file({reinterpret_cast<const char*>(data) + 1, size - 1});
-  std::list<location> locations{location(2, n)};
+  std::vector<location> locations{location(2, n)};
   fuzz::run_reporting([&] {
     std::ifstream in(path);
     matrix m = read_matrix(in, locations);

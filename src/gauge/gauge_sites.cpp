@@ -8,7 +8,7 @@ namespace mero {
 
 namespace {
 
-void check_weights(const std::list<location>& locations, int columns, const message& failure) {
+void check_weights(const std::vector<location>& locations, int columns, const message& failure) {
   if (columns == 1) {
     for (const location& l : locations)
       if (!(l.weight(0) > 0.0)) report_error(failure);

@@ -22,7 +22,7 @@ struct pair_choice {
 
 // Coordinates 0 and 1 and weight column 0 of every location, in list order; a coordinate or
 // weight that is not finite ends the run with error 1362.
-std::vector<weighted_point> line_points_of(const std::list<location>& list);
+std::vector<weighted_point> line_points_of(const std::vector<location>& list);
 
 // True when the two points coincide: no line runs through them, and the pair is skipped.
 inline bool same_place(const weighted_point& a, const weighted_point& b) {
@@ -72,7 +72,7 @@ double block_line_sum(const std::vector<weighted_point>& points, const weighted_
 
 // Copies of the locations at positions i and j of the list with weight entry 0 = 1.0; empty when
 // no pair was chosen.
-std::list<location> pair_line_points(const std::list<location>& list, const pair_choice& choice);
+std::list<location> pair_line_points(const std::vector<location>& list, const pair_choice& choice);
 
 // A candidate line of a max problem: two points on it and its value.
 struct line_choice {

@@ -12,7 +12,7 @@
 
 namespace mero {
 
-std::vector<weighted_point> line_points_of(const std::list<location>& list) {
+std::vector<weighted_point> line_points_of(const std::vector<location>& list) {
   std::vector<weighted_point> points = weighted_points(list, 0);
   for (const weighted_point& p : points)
     if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.w))
@@ -35,7 +35,7 @@ double l2_line_sum(const std::vector<weighted_point>& points, const line_equatio
   return l2_line_sum(points, a, b);
 }
 
-std::list<location> pair_line_points(const std::list<location>& list, const pair_choice& choice) {
+std::list<location> pair_line_points(const std::vector<location>& list, const pair_choice& choice) {
   std::list<location> result;
   if (choice.i < 0) return result;
   for (int index : {choice.i, choice.j}) {

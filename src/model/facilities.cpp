@@ -24,7 +24,7 @@ void sort_by_coordinate(std::list<location>& list, int c) {
 
 namespace {
 
-const location& first_of(const std::list<location>& list) {
+const location& first_of(const std::vector<location>& list) {
   if (list.empty()) empty_list_error(model_messages::empty_list);
   return list.front();
 }
@@ -32,8 +32,9 @@ const location& first_of(const std::list<location>& list) {
 // Replaces list by a copy without the entries that drop says so of; the copies pass through the
 // location copy rule like every other copy.
 template <typename Drop>
-void rebuild_without(std::list<location>& list, Drop drop) {
-  std::list<location> kept;
+void rebuild_without(std::vector<location>& list, Drop drop) {
+  std::vector<location> kept;
+  kept.reserve(list.size());
   int index = 0;
   for (const location& l : list)
     if (!drop(l, index++)) kept.push_back(l);
@@ -56,7 +57,7 @@ void facilities::remove(int i) {
   const int n = static_cast<int>(size());
   if (i < 0 || i >= n) report_error(model_messages::remove_index);
   if (i == 0)
-    pop_front();
+    erase(begin());  // the others move up unchanged (a move assignment keeps everything)
   else if (i == n - 1)
     pop_back();
   else
@@ -66,7 +67,7 @@ void facilities::remove(int i) {
 void facilities::remove(const location& l) {
   if (empty()) return;
   if (front() == l)
-    pop_front();
+    erase(begin());
   else if (back() == l)
     pop_back();
   else
@@ -127,9 +128,13 @@ void facilities::linf_to_l1(std::list<location>& list) {
   for (location& l : list) l.linf_to_l1();
 }
 
-void facilities::l1_to_linf() { l1_to_linf(*this); }
+void facilities::l1_to_linf() {
+  for (location& l : *this) l.l1_to_linf();
+}
 
-void facilities::linf_to_l1() { linf_to_l1(*this); }
+void facilities::linf_to_l1() {
+  for (location& l : *this) l.linf_to_l1();
+}
 
 namespace {
 

@@ -1,7 +1,8 @@
 #pragma once
-// facilities: the planar problem in memory. The base list holds the existing facilities in file
-// order (std::list keeps item handles stable); names run parallel to it; optima holds what the
-// last solver left behind. Every planar solver is a member, grouped below by family; each family
+// facilities: the planar problem in memory. The base vector holds the existing facilities in file
+// order, contiguous (a million locations are one allocation, not a million list nodes); names run
+// parallel to it and are empty for a file without names; optima holds what the last solver left
+// behind. Every planar solver is a member, grouped below by family; each family
 // is defined in its own file under src/planar, src/gauge, src/line or src/restriction.
 
 #include <iosfwd>
@@ -32,7 +33,7 @@ class restriction;
 // The restrictions of a problem (src/restriction), in file order; the list owns them.
 using restriction_list = std::vector<std::unique_ptr<restriction>>;
 
-class facilities : public std::list<location> {
+class facilities : public std::vector<location> {
  public:
   std::list<std::string> names;
 
@@ -83,7 +84,7 @@ class facilities : public std::list<location> {
   double l2_sum(int w, double eps, bool clear);
   bool is_l2_optimal(const location& loc, int w) const;
   double lp_sum(int p, double eps, double smoothing, int max_iterations, int w, bool clear);
-  bool is_lp_optimal(int p, std::list<location>::const_iterator node, int w) const;
+  bool is_lp_optimal(int p, const_iterator node, int w) const;
   location lp_step(const location& loc, int p, double smoothing, int w) const;
   double linf_sum(int w, bool clear);
 
@@ -183,6 +184,11 @@ class facilities : public std::list<location> {
   // Runs a maximum-norm center solver on the locations mapped by (x, y) -> (x - y, x + y), where
   // maximum-norm distances of images are l1 distances of the originals, and maps the optima back.
   double solve_in_rotated_plane(double (facilities::*linf_solver)(bool), bool clear);
+
+  // Parts of l1_sum (src/planar/l1_median.cpp): the single-point optimum found by selection
+  // where that is sure to equal the sorted walk's, and the value at the first optimum.
+  bool l1_median_by_selection(int w);
+  double l1_value_at_first_optimum(int w) const;
 };
 
 }  // namespace mero

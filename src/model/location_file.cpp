@@ -23,7 +23,7 @@ void scan_file(const std::string& path, const char* file_type, location_scan& sc
 }
 
 void take_locations(location_scan& scan, facilities& problem) {
-  static_cast<std::list<location>&>(problem) = std::move(scan.scanned_locations);
+  static_cast<std::vector<location>&>(problem) = std::move(scan.scanned_locations);
   problem.names = std::move(scan.scanned_names);
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 // The state of the location-file scanner, shared by the readers of the location file and of the
 // graph file (whose location part is a location file). A reader starts the scan with its stream
-// and file type, runs scan_location_file, and moves the scanned lists into its target.
+// and file type, runs scan_location_file, and moves the scanned locations and names into its
+// target.
 
 #include <iosfwd>
 #include <list>
@@ -27,9 +28,12 @@ struct location_scan : scan_state {
   int location_dim = 2;
   int location_weight_dim = 1;
 
-  std::list<location> scanned_locations;
+  std::vector<location> scanned_locations;
+  // Empty until the first name; from then on one per location, "" for an unnamed one.
   std::list<std::string> scanned_names;
   std::vector<int> scanned_gauge_numbers;
+  // The places in scanned_locations of the locations of "NC" lines.
+  std::vector<std::size_t> nc_locations;
 
   // The location line being read.
   std::vector<double> line_coordinates;
@@ -37,6 +41,11 @@ struct location_scan : scan_state {
   int counter = 0;
   bool name_seen = false;
   bool first_call = true;
+  // The size of the input when it can be told (0 otherwise), the bytes handed to the scanner so
+  // far and the number of blocks, for sizing scanned_locations once from the first block.
+  std::size_t input_bytes = 0;
+  std::size_t bytes_read = 0;
+  int blocks_read = 0;
 
   // The adjacency part of a graph file: one entry per line, node numbers from 1 as written.
   // graph_nodes is set where the location part of a graph file ends, graph_edges where the
@@ -52,9 +61,18 @@ struct location_scan : scan_state {
   // Empties every list and starts a fresh read of input as a file of the given type.
   void start(std::istream& input, const char* file_type);
   // The line is complete: its numbers become a location(location_dim, location_weight_dim) (of
-  // no coordinates for an "NC" line), named by the name seen or by the empty string. A weight dimension of 0 still had to read one
-  // weight, and storing it then fails with error 1209.
+  // no coordinates for an "NC" line), named by the name seen, or by "" once a file has names. A
+  // weight dimension of 0 still had to read one weight, and storing it then fails with error 1209.
   void complete_line();
+  // Once the scan is done: the locations of "NC" lines lose the placeholder coordinate that kept
+  // their weights while scanned_locations grew, and have no coordinates, as their lines gave none.
+  void finish_nc_locations();
+  // A name for the line being read: the names of earlier unnamed lines become "" first.
+  void take_name(std::string name);
+  // The scanner's input: up to max bytes into buffer, 0 at the end. Before the second block,
+  // scanned_locations is reserved for the whole input at the density of the first block, so that
+  // a large file fills one array instead of copying it at each doubling.
+  std::size_t read_block(char* buffer, std::size_t max);
 };
 
 // Scans the whole input: 0 when the file is done, 1 when message holds an error. (The scanner's

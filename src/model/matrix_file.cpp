@@ -13,7 +13,7 @@ void matrix_scan::start(std::istream& input) {
   counter = 0;
 }
 
-matrix read_matrix(std::istream& in, const std::list<location>& locations) {
+matrix read_matrix(std::istream& in, const std::vector<location>& locations) {
   namespace texts = matrix_file_messages;
   if (!in) report_error(texts::cannot_open);
   matrix_scan scan;

@@ -13,7 +13,6 @@
 // n the weight dimension of the first location, filled row by row with the entries in file order.
 
 #include <istream>
-#include <list>
 #include <vector>
 
 #include "kernel/matrix.h"
@@ -38,6 +37,6 @@ int scan_matrix_file(matrix_scan& scan);
 // Reads a matrix file from an opened stream into an n by n matrix, n being the weight dimension
 // of the head of locations. A stream that did not open is 1510; a syntax error, or fewer than
 // n * n numbers, is 1511; an empty location list is the list error "dlist::head(): empty list".
-matrix read_matrix(std::istream& in, const std::list<location>& locations);
+matrix read_matrix(std::istream& in, const std::vector<location>& locations);
 
 }  // namespace mero

@@ -50,12 +50,13 @@ void read_graph(const std::string& path, location_graph& g, facilities& problem)
   location_scan scan;
   scan.start(in, location_file_types::plain);
   scan_or_report(scan_location_file, scan, text::syntax_error.code);
+  scan.finish_nc_locations();
   std::vector<node> nodes;
   if (scan.graph_nodes) make_nodes(scan, g, nodes);
   if (scan.graph_edges) make_edges(scan, g, nodes);
   // Nodes without coordinates have no drawing positions: the viewer lays such a graph out.
   if (scan.location_file_type == location_file_types::nc_graph) scan.scanned_locations.clear();
-  static_cast<std::list<location>&>(problem) = std::move(scan.scanned_locations);
+  static_cast<std::vector<location>&>(problem) = std::move(scan.scanned_locations);
   problem.names = std::move(scan.scanned_names);
 }
 

@@ -58,7 +58,7 @@ weighted_point step_at(const std::vector<weighted_point>& points, double x, doub
 
 }  // namespace
 
-bool facilities::is_lp_optimal(int p, std::list<location>::const_iterator node, int w) const {
+bool facilities::is_lp_optimal(int p, const_iterator node, int w) const {
   const auto at = static_cast<std::size_t>(std::distance(cbegin(), node));
   return is_optimal_at(weighted_points(*this, w), at, p);
 }

@@ -69,15 +69,15 @@ double facilities::N_l2sqr_sum(int n, const matrix& V, bool clear) {
   // inv() still stops those.
   if (!has_negative_data(*this, n, V) && has_unanchored_group(*this, n, V))
     report_error(multifacility_messages::singular_system);
-  vector bx(n), by(n);
+  mero::vector bx(n), by(n);
   for (int j = 0; j < n; ++j)
     for (const location& a : *this) {
       bx[j] += a.weight(j) * a.coordinate(0);
       by[j] += a.weight(j) * a.coordinate(1);
     }
   const matrix inverse = normal_matrix(*this, n, V).inv();
-  const vector x = inverse * bx;
-  const vector y = inverse * by;
+  const mero::vector x = inverse * bx;
+  const mero::vector y = inverse * by;
   if (clear) optima_.clear();
   double value = 0.0;
   for (int j = 0; j < n; ++j) {

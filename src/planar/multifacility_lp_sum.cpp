@@ -23,7 +23,7 @@ constexpr int k_max_iterations = 500;
 // clearing, so that the optima of all columns pile up in order of j.
 std::list<location> pile_up_medians(const facilities& problem, int n, int p) {
   facilities scratch;  // the locations only, and no optima yet
-  static_cast<std::list<location>&>(scratch) = problem;
+  static_cast<std::vector<location>&>(scratch) = problem;
   // The maximum-norm median is the rectilinear median of the image under
   // (x, y) -> ((x + y) / 2, (y - x) / 2).
   if (p == -1) scratch.l1_to_linf();

@@ -5,13 +5,6 @@
 
 namespace mero {
 
-std::vector<weighted_point> weighted_points(const std::list<location>& list, int w) {
-  std::vector<weighted_point> points;
-  points.reserve(list.size());
-  for (const location& l : list) points.push_back({l.coordinate(0), l.coordinate(1), l.weight(w)});
-  return points;
-}
-
 weighted_point centre_of_gravity(const std::vector<weighted_point>& points) {
   double sx = 0.0, sy = 0.0, sw = 0.0;
   for (const weighted_point& p : points) {

@@ -15,9 +15,16 @@ struct weighted_point {
   double w;
 };
 
-// Coordinates 0 and 1 and weight column w of every location, in list order. A location with fewer
-// coordinates or weights ends the run with the location's index error.
-std::vector<weighted_point> weighted_points(const std::list<location>& list, int w);
+// Coordinates 0 and 1 and weight column w of every location (of the locations of a facilities
+// object or of any list of them), in order. A location with fewer coordinates or weights ends the
+// run with the location's index error.
+template <class Locations>
+std::vector<weighted_point> weighted_points(const Locations& list, int w) {
+  std::vector<weighted_point> points;
+  points.reserve(list.size());
+  for (const location& l : list) points.push_back({l.coordinate(0), l.coordinate(1), l.weight(w)});
+  return points;
+}
 
 // The weighted mean of the points (the centre of gravity). A zero weight sum is not checked: the
 // division then gives what the arithmetic gives.

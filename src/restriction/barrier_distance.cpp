@@ -40,7 +40,7 @@ barrier::route_to circle_barrier::route(const point& a, const point& p) const {
   return {a.distance(t1) + arc + t2.distance(p), t1};
 }
 
-double circle_barrier::barrier_objective(const std::list<location>& locations,
+double circle_barrier::barrier_objective(const std::vector<location>& locations,
                                          const point& p) const {
   if (!(p.distance(center) > radius)) return 1e13;
   return barrier::barrier_objective(locations, p);

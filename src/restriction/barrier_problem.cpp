@@ -66,7 +66,7 @@ std::int64_t cut_power_of_three(int k) {
 
 }  // namespace
 
-SBO::SBO(const std::list<location>& locations, const barrier& b, settings s)
+SBO::SBO(const std::vector<location>& locations, const barrier& b, settings s)
     : locations_(locations), b_(b), s_(s) {}
 
 std::vector<int> SBO::signature(const point& p) const {

@@ -5,7 +5,6 @@
 // and runs a Hooke and Jeeves pattern search in the cells it reaches.
 
 #include <cstdint>
-#include <list>
 #include <set>
 #include <vector>
 
@@ -28,7 +27,7 @@ class SBO {
     double eps = 0.001;
   };
 
-  SBO(const std::list<location>& locations, const barrier& b, settings s);
+  SBO(const std::vector<location>& locations, const barrier& b, settings s);
 
   // The whole method; afterwards solution() and solution_value() hold the result.
   void solve();
@@ -52,7 +51,7 @@ class SBO {
   // Hooke and Jeeves from start; false when it runs into a cell already searched.
   bool pattern_search(const point& start, point& result);
 
-  const std::list<location>& locations_;
+  const std::vector<location>& locations_;
   const barrier& b_;
   settings s_;
   point opt_;

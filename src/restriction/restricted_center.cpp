@@ -24,13 +24,13 @@ constexpr double infinity_value = 1e50;
 
 double weighted_l2(const location& a, const point& q) { return a.weight(0) * point(a).distance(q); }
 
-double largest_weighted_l2(const std::list<location>& locations, const point& q) {
+double largest_weighted_l2(const std::vector<location>& locations, const point& q) {
   double v = 0.0;
   for (const location& a : locations) v = std::max(v, weighted_l2(a, q));
   return v;
 }
 
-double largest_weighted_linf(const std::list<location>& locations, const point& q) {
+double largest_weighted_linf(const std::vector<location>& locations, const point& q) {
   double v = 0.0;
   for (const location& a : locations) {
     const double d =
@@ -57,7 +57,7 @@ struct l2max_candidates {
 
 // Where the horizontal and the vertical line through each location cross an edge.
 void add_axis_crossings(l2max_candidates& c, const std::vector<segment>& edges,
-                        const std::list<location>& locations) {
+                        const std::vector<location>& locations) {
   for (const location& a : locations) {
     const point pa(a);
     const segment across(point(-infinity_value, pa.ycoord()), point(infinity_value, pa.ycoord()));
@@ -101,7 +101,7 @@ void add_pair_crossings(l2max_candidates& c, const restriction& r, const locatio
 
 // When nothing else offers itself, the region's vertices on the hull of region and locations.
 void add_corners(l2max_candidates& c, const std::vector<point>& region_vertices,
-                 const std::list<location>& locations) {
+                 const std::vector<location>& locations) {
   std::vector<point> all = region_vertices;
   for (const location& a : locations) all.push_back(point(a));
   const polygon hull(convex_hull(all));
@@ -112,7 +112,7 @@ void add_corners(l2max_candidates& c, const std::vector<point>& region_vertices,
 // The boundary search of proj_l2max over a convex ring of edges.
 double boundary_l2max(const restriction& r, const std::vector<segment>& edges,
                       const std::vector<point>& region_vertices, location& p,
-                      const std::list<location>& locations, double z) {
+                      const std::vector<location>& locations, double z) {
   l2max_candidates c{z, {}, {}};
   add_axis_crossings(c, edges, locations);
   for (auto a = locations.begin(); a != locations.end(); ++a)
@@ -139,13 +139,13 @@ double boundary_l2max(const restriction& r, const std::vector<segment>& edges,
 
 }  // namespace
 
-double restr_polygon::proj_l2max(location& p, const std::list<location>& locations,
+double restr_polygon::proj_l2max(location& p, const std::vector<location>& locations,
                                  double bound) const {
   if (shape() != 0 || !is_convex()) report_error(msg::not_convex_polygon);
   return boundary_l2max(*this, edges, vertices(), p, locations, bound);
 }
 
-double restr_rectangle::proj_l2max(location& p, const std::list<location>& locations,
+double restr_rectangle::proj_l2max(location& p, const std::vector<location>& locations,
                                    double bound) const {
   if (shape() != 1) report_error(msg::not_rectangle);
   return boundary_l2max(*this, sides(), corners, p, locations, bound);
@@ -212,7 +212,7 @@ point ray_exit(const restriction& r, const point& a, const point& b) {
 
 }  // namespace
 
-double restriction::proj_linf_max(std::list<location>& U, const std::list<location>& locations,
+double restriction::proj_linf_max(std::list<location>& U, const std::vector<location>& locations,
                                   double z) const {
   if (U.size() == 2 && keep_outside_pieces(*this, U)) return z;
   if (U.size() == 1 && !inside(U.front())) return z;

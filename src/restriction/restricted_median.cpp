@@ -115,8 +115,8 @@ double facilities::in_l1_sum(const restriction_list& restrictions) {
   facilities copy = *this;
   const double z = copy.l1_sum(0, true);
   optima_ = copy.optima();
-  return restricted_grid_median(*this, optima_, restrictions, z, 1, vector(1.0, 0.0),
-                                vector(0.0, 1.0));
+  return restricted_grid_median(*this, optima_, restrictions, z, 1, mero::vector(1.0, 0.0),
+                                mero::vector(0.0, 1.0));
 }
 
 // Weighted Chebyshev median (linf): as in_l1_sum with the diagonal grid lines.
@@ -124,8 +124,8 @@ double facilities::in_linf_sum(const restriction_list& restrictions) {
   facilities copy = *this;
   const double z = copy.linf_sum(0, true);
   optima_ = copy.optima();
-  return restricted_grid_median(*this, optima_, restrictions, z, -1, vector(1.0, 1.0),
-                                vector(-1.0, 1.0));
+  return restricted_grid_median(*this, optima_, restrictions, z, -1, mero::vector(1.0, 1.0),
+                                mero::vector(-1.0, 1.0));
 }
 
 // Weighted squared Euclidean median with restrictions: the centre of gravity if feasible, else

@@ -11,7 +11,7 @@ namespace msg = restriction_messages;
 
 restriction::~restriction() = default;
 
-double restriction::proj_l2max(location&, const std::list<location>&, double) const {
+double restriction::proj_l2max(location&, const std::vector<location>&, double) const {
   report_error(msg::not_implemented);
 }
 
@@ -61,7 +61,7 @@ int halfspace::side(const point& p) const {
 
 bool barrier::inside(const location& l) const { return inside(point(l)); }
 
-double barrier::barrier_objective(const std::list<location>& locations, const point& p) const {
+double barrier::barrier_objective(const std::vector<location>& locations, const point& p) const {
   double sum = 0.0;
   for (const location& a : locations) sum += a.weight(0) * distance(point(a), p);
   return sum;

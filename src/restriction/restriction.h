@@ -43,12 +43,12 @@ class restriction {
   virtual std::vector<point> hit_line(const line& l) const = 0;
   // The cost of reaching every location from p around the figure; 0 for forbidden regions.
   // The barrier classes get theirs with the barrier problem.
-  virtual double barrier_objective(const std::list<location>& locations, const point& p) const = 0;
+  virtual double barrier_objective(const std::vector<location>& locations, const point& p) const = 0;
   // Candidates for the point of the boundary nearest to p; the caller picks the nearest.
   virtual std::list<location> proj_l2sqr(const location& p) const = 0;
   // The best boundary point for the weighted Euclidean center of locations, whose unrestricted
   // value is bound; it is left in p and its value returned. 1411 unless a class provides it.
-  virtual double proj_l2max(location& p, const std::list<location>& locations, double bound) const;
+  virtual double proj_l2max(location& p, const std::vector<location>& locations, double bound) const;
 
   // The best boundary point for the weighted gauge center of the sites, whose unrestricted value
   // is bound; it is left in p and its value returned. Polygons, rectangles and circles give it;
@@ -58,7 +58,7 @@ class restriction {
   // The weighted maximum-norm center on the boundary of a convex figure, given the unrestricted
   // optima U (one point or the ends of a segment) of value z. U receives the new optima; the
   // value is returned.
-  double proj_linf_max(std::list<location>& U, const std::list<location>& locations,
+  double proj_linf_max(std::list<location>& U, const std::vector<location>& locations,
                        double z) const;
 };
 
@@ -97,7 +97,7 @@ class forbidden_region : public restriction {
   bool inside(const location& l) const override;
   std::vector<point> hit_segment(const point& a, const point& b) const override;
   std::vector<point> hit_polygon(const polygon& p) const override;
-  double barrier_objective(const std::list<location>&, const point&) const override { return 0.0; }
+  double barrier_objective(const std::vector<location>&, const point&) const override { return 0.0; }
 
   bool forbidden_inside = false;
 };
@@ -117,7 +117,7 @@ class restr_polygon : public forbidden_region {
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
-  double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
+  double proj_l2max(location& p, const std::vector<location>& locations, double bound) const override;
   double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
                            double bound) const override;
 
@@ -144,7 +144,7 @@ class restr_rectangle : public forbidden_region {
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
-  double proj_l2max(location& p, const std::list<location>& locations, double bound) const override;
+  double proj_l2max(location& p, const std::vector<location>& locations, double bound) const override;
   double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
                            double bound) const override;
 
@@ -193,7 +193,7 @@ class barrier : public restriction {
   std::vector<point> hit_polygon(const polygon&) const override { return {}; }
   std::vector<point> hit_segment(const segment& s) const override = 0;
   // Sum over the locations of weight 0 times the barrier distance to p (see distance).
-  double barrier_objective(const std::list<location>& locations, const point& p) const override;
+  double barrier_objective(const std::vector<location>& locations, const point& p) const override;
   std::list<location> proj_l2sqr(const location&) const override { return {}; }
   // True when the straight segment from a to p is not blocked by the barrier.
   virtual bool sees(const point& a, const point& p) const = 0;
@@ -213,7 +213,7 @@ class circle_barrier : public barrier {
   bool sees(const point& a, const point& p) const override;
   route_to route(const point& a, const point& p) const override;
   // A point inside or on the circle costs 1e13 as a whole.
-  double barrier_objective(const std::list<location>& locations,
+  double barrier_objective(const std::vector<location>& locations,
                            const point& p) const override;
   // A negative radius gives the empty barrier: centre at the origin, radius 0, nothing inside.
   circle_barrier(const point& centre, double radius);

@@ -52,7 +52,9 @@ void draw_axes(window& w, const planar_frame& f) {
   w.set_font(old);
 }
 
-std::vector<point> points_of(const std::list<location>& list) {
+// The plane points of the locations of a list or of a facilities object.
+template <class Locations>
+std::vector<point> points_of(const Locations& list) {
   std::vector<point> points;
   for (const location& l : list) points.emplace_back(l.coordinate(0), l.coordinate(1));
   return points;

@@ -28,10 +28,10 @@ TEST(facilities, remove_by_value) {
   f.remove(at(1, 1));
   ASSERT_EQ(f.size(), 4u);
   EXPECT_EQ(f.front(), at(2, 2));
-  f.push_front(at(9, 9));
+  f.insert(f.begin(), at(9, 9));
   f.remove(at(2, 2));
   f.remove(at(7, 7));  // no match, no error
-  EXPECT_EQ((std::list<location>(f)), (std::list<location>{at(9, 9), at(1, 1), at(3, 3)}));
+  EXPECT_EQ((std::vector<location>(f)), (std::vector<location>{at(9, 9), at(1, 1), at(3, 3)}));
 }
 
 TEST(facilities, get_and_remove_by_index) {

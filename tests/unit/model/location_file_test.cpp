@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <sstream>
@@ -54,7 +55,24 @@ TEST(location_file, replaces_what_was_there) {
   f.names = {"old", "older"};
   read_location_file(file.path, f);
   ASSERT_EQ(f.size(), 1u);
-  EXPECT_EQ(f.names, std::list<std::string>{""});
+  EXPECT_TRUE(f.names.empty());  // a file without names leaves none
+}
+
+// A file of several input blocks, whose first name comes late: every location in file order,
+// the names of the earlier lines filled in as "".
+TEST(location_file, large_files_and_late_names) {
+  std::string text = "begin {location} [2,1]\n";
+  const int n = 40000, named = 30000;
+  for (int i = 0; i < n; ++i)
+    text += std::to_string(i) + ".5 -" + std::to_string(i) + " 1" + (i == named ? " [late]" : "") +
+            "\n";
+  facilities f = read(text + "end {location}\n");
+  ASSERT_EQ(f.size(), static_cast<std::size_t>(n));
+  for (int i = 0; i < n; i += 997) EXPECT_EQ(f[i], location(2.0, 1.0, i + 0.5, -i, 1.0));
+  EXPECT_EQ(f.back(), location(2.0, 1.0, n - 0.5, 1.0 - n, 1.0));
+  ASSERT_EQ(f.names.size(), static_cast<std::size_t>(n));
+  EXPECT_EQ(*std::next(f.names.begin(), named), "late");
+  EXPECT_EQ(std::count(f.names.begin(), f.names.end(), ""), n - 1);
 }
 
 // Each file holds one fault; the message joins the offending token and the rest of its line.
@@ -151,7 +169,7 @@ TEST(location_file, writer_output_reads_back_identically) {
             "begin {location} [2,2]\n0.5 -3  1 1e+50  [depot one]\n123456 1e-05  0 2.5  []\n"
             "-7 8  3 4  []\nend {location}\n");
   facilities back = read(out.str());
-  EXPECT_EQ(static_cast<std::list<location>&>(back), static_cast<std::list<location>&>(f));
+  EXPECT_EQ(static_cast<std::vector<location>&>(back), static_cast<std::vector<location>&>(f));
   EXPECT_EQ(back.names, (std::list<std::string>{"depot one", "", ""}));
 }
 

@@ -192,7 +192,7 @@ TEST(BarrierMedian, CellCodes) {
   // Locations left, right and above a vertical barrier; the point right of it is seen by the
   // right and the top location; the left one goes round over the lower end, on the right of its
   // way; from (-1, 0.5) the right one goes over the upper end, again on its right.
-  const std::list<location> three = {at(-2, 0), at(2, 0), at(0, 5)};
+  const std::vector<location> three = {at(-2, 0), at(2, 0), at(0, 5)};
   const line_barrier l(point(0, -1), point(0, 1));
   SBO sbo(three, l, {});
   EXPECT_EQ(sbo.signature(point(1, -0.5)), (std::vector<int>{-1, 0, 0}));
@@ -206,7 +206,7 @@ TEST(BarrierMedian, ShadowSegmentsRunFromTheTangentPointsAwayFromTheLocation) {
   // A vertical barrier inside the square of the locations. From (-4,-4) the shadow behind the end
   // (0,1) runs along (4,5) to the top side at (2.4,4), that behind (0,-1) along (4,3) to the
   // right side at (4,2); the other corners mirror this.
-  const std::list<location> corners = {at(-4, -4), at(4, -4), at(4, 4), at(-4, 4)};
+  const std::vector<location> corners = {at(-4, -4), at(4, -4), at(4, 4), at(-4, 4)};
   const line_barrier l(point(0, -1), point(0, 1));
   const std::vector<segment> shadows = SBO(corners, l, {}).cpt_shdw_segs();
   ASSERT_EQ(shadows.size(), 8u);

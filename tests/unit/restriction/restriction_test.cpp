@@ -244,7 +244,7 @@ TEST(RestrictionList, FirstContainingAndInsideAll) {
   EXPECT_FALSE(inside_all(both, list[1].get()));
   EXPECT_TRUE(inside_all({*std::next(both.begin()), both.back()}, list[1].get()));
   EXPECT_REPORT(inside_all(both, nullptr), 1412, "Restriction is empty in inside_all");
-  EXPECT_EQ(list[1]->barrier_objective(both, point(0, 0)), 0.0);
+  EXPECT_EQ(list[1]->barrier_objective({both.begin(), both.end()}, point(0, 0)), 0.0);
 }
 
 }  // namespace
