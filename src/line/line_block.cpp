@@ -28,7 +28,8 @@ bool parallel(double vx, double vy, double ex, double ey) {
 }
 
 // A copy of location i with weight entry 0 = 1.0, and the same copy moved by e.
-std::list<location> direction_line_points(const std::vector<location>& list, int i, const point& e) {
+std::list<location> direction_line_points(const std::vector<location>& list, int i,
+                                          const point& e) {
   location copy = *std::next(list.begin(), i);
   copy.weight_ref(0) = 1.0;
   location moved = copy;

@@ -135,8 +135,10 @@ std::optional<axis_median> select_axis_median(std::vector<keyed>& items, double 
     const double pivot = std::max(std::min(a, b), std::min(std::max(a, b), c));
     const auto first = items.begin() + static_cast<std::ptrdiff_t>(lo);
     const auto last = items.begin() + static_cast<std::ptrdiff_t>(hi);
-    const auto equal = std::partition(first, last, [pivot](const keyed& e) { return e.key < pivot; });
-    const auto above = std::partition(equal, last, [pivot](const keyed& e) { return !(pivot < e.key); });
+    const auto equal =
+        std::partition(first, last, [pivot](const keyed& e) { return e.key < pivot; });
+    const auto above =
+        std::partition(equal, last, [pivot](const keyed& e) { return !(pivot < e.key); });
     double smaller = 0.0, same = 0.0;
     for (auto it = first; it != equal; ++it) smaller += it->weight;
     for (auto it = equal; it != above; ++it) same += it->weight;

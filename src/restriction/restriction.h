@@ -43,12 +43,14 @@ class restriction {
   virtual std::vector<point> hit_line(const line& l) const = 0;
   // The cost of reaching every location from p around the figure; 0 for forbidden regions.
   // The barrier classes get theirs with the barrier problem.
-  virtual double barrier_objective(const std::vector<location>& locations, const point& p) const = 0;
+  virtual double barrier_objective(const std::vector<location>& locations,
+                                   const point& p) const = 0;
   // Candidates for the point of the boundary nearest to p; the caller picks the nearest.
   virtual std::list<location> proj_l2sqr(const location& p) const = 0;
   // The best boundary point for the weighted Euclidean center of locations, whose unrestricted
   // value is bound; it is left in p and its value returned. 1411 unless a class provides it.
-  virtual double proj_l2max(location& p, const std::vector<location>& locations, double bound) const;
+  virtual double proj_l2max(location& p, const std::vector<location>& locations,
+                            double bound) const;
 
   // The best boundary point for the weighted gauge center of the sites, whose unrestricted value
   // is bound; it is left in p and its value returned. Polygons, rectangles and circles give it;
@@ -97,7 +99,9 @@ class forbidden_region : public restriction {
   bool inside(const location& l) const override;
   std::vector<point> hit_segment(const point& a, const point& b) const override;
   std::vector<point> hit_polygon(const polygon& p) const override;
-  double barrier_objective(const std::vector<location>&, const point&) const override { return 0.0; }
+  double barrier_objective(const std::vector<location>&, const point&) const override {
+    return 0.0;
+  }
 
   bool forbidden_inside = false;
 };
@@ -117,7 +121,8 @@ class restr_polygon : public forbidden_region {
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
-  double proj_l2max(location& p, const std::vector<location>& locations, double bound) const override;
+  double proj_l2max(location& p, const std::vector<location>& locations,
+                    double bound) const override;
   double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
                            double bound) const override;
 
@@ -144,7 +149,8 @@ class restr_rectangle : public forbidden_region {
   std::vector<point> hit_segment(const segment& s) const override;
   std::vector<point> hit_line(const line& l) const override;
   std::list<location> proj_l2sqr(const location& p) const override;
-  double proj_l2max(location& p, const std::vector<location>& locations, double bound) const override;
+  double proj_l2max(location& p, const std::vector<location>& locations,
+                    double bound) const override;
   double proj_gauge_center(location& p, const std::vector<gauge_site>& sites,
                            double bound) const override;
 
@@ -213,8 +219,7 @@ class circle_barrier : public barrier {
   bool sees(const point& a, const point& p) const override;
   route_to route(const point& a, const point& p) const override;
   // A point inside or on the circle costs 1e13 as a whole.
-  double barrier_objective(const std::vector<location>& locations,
-                           const point& p) const override;
+  double barrier_objective(const std::vector<location>& locations, const point& p) const override;
   // A negative radius gives the empty barrier: centre at the origin, radius 0, nothing inside.
   circle_barrier(const point& centre, double radius);
 
