@@ -1,6 +1,6 @@
 #pragma once
 // The result viewers draw through the window layer, which libmero does not link; the program
-// installs them here at its start (as it installs the windowed faces of the reporters). Without
+// installs them here from its window module at their first use (driver/window_module.h). Without
 // them a windowed run only announces its window and --picture and --results write nothing.
 
 #include <ostream>
@@ -31,6 +31,11 @@ struct viewer_hooks {
   void (*results_discrete)(std::ostream& out, const discrete_scene& scene) = nullptr;
 };
 
+// The hooks, after the installer given to defer_viewers (if any) has run once.
 viewer_hooks& installed_viewers();
+
+// install runs at the first call of installed_viewers, so that a run that never uses a viewer
+// never loads them.
+void defer_viewers(void (*install)());
 
 }  // namespace mero

@@ -1,5 +1,5 @@
 #pragma once
-// Puts the result viewers into the run's hooks; the program calls it at its start.
+// Puts the result viewers into the run's hooks; the window module calls it when it is installed.
 
 namespace mero {
 

@@ -1,7 +1,7 @@
 #pragma once
-// The windowed faces of the reporters: the error, message and question panels. The program
-// installs them at its start; the kernel itself knows only the replaceable sink, so nothing that
-// does not link the window layer pulls in Tk.
+// The windowed faces of the reporters: the error, message and question panels. The program's
+// window module installs them when it is loaded, the graph editor at its start; the kernel itself
+// knows only the replaceable sink, so nothing that does not link the window layer pulls in Tk.
 
 #include <string>
 
