@@ -1,12 +1,13 @@
 #include "discrete/discrete_file.h"
 
-#include <charconv>
 #include <filesystem>
 #include <fstream>
 #include <ostream>
+#include <string>
 
 #include "discrete/discrete_messages.h"
 #include "discrete/discrete_scan.h"
+#include "kernel/number_format.h"
 #include "kernel/reporters.h"
 
 namespace mero {
@@ -33,28 +34,27 @@ void write_block(std::ostream& out, const std::list<location>& points,
   }
 }
 
-// The cost matrix, a row per line, each number followed by a blank. A stream with the default
-// flags in the classic locale prints a double as printf's %g does at the stream's precision, and
-// to_chars gives the same text several times faster, which counts for a large matrix; any other
-// stream formats through its own operator.
+// The cost matrix, a row per line, each number followed by a blank. A plain stream gets each row
+// as one text, its numbers formatted as the stream would format them, which counts for a large
+// matrix; any other stream formats through its own operator.
 void write_costs(std::ostream& out, const matrix& cost) {
-  const bool plain = out.flags() == (std::ios_base::dec | std::ios_base::skipws) &&
-                     out.getloc() == std::locale::classic() && out.precision() > 0 &&
-                     out.precision() <= 17;
+  const bool plain = plain_number_stream(out);
   const int precision = static_cast<int>(out.precision());
-  char text[64];
+  std::string row;
+  char number[general_text_size];
   for (int i = 0; i < cost.dim1(); ++i) {
-    for (int j = 0; j < cost.dim2(); ++j) {
-      if (!plain) {
-        out << cost(i, j) << ' ';
-        continue;
-      }
-      const auto end = std::to_chars(text, text + sizeof text - 1, cost(i, j),
-                                     std::chars_format::general, precision);
-      *end.ptr = ' ';
-      out.write(text, end.ptr + 1 - text);
+    if (!plain) {
+      for (int j = 0; j < cost.dim2(); ++j) out << cost(i, j) << ' ';
+      out << '\n';
+      continue;
     }
-    out << '\n';
+    row.clear();
+    for (int j = 0; j < cost.dim2(); ++j) {
+      row.append(number, format_general(cost(i, j), precision, number));
+      row += ' ';
+    }
+    row += '\n';
+    out.write(row.data(), static_cast<std::streamsize>(row.size()));
   }
 }
 

@@ -3,8 +3,10 @@
 #include <cmath>
 #include <istream>
 #include <ostream>
+#include <string>
 #include <utility>
 
+#include "kernel/number_format.h"
 #include "model/model_messages.h"
 
 namespace mero {
@@ -170,11 +172,27 @@ void location::WriteAsPolygonList(std::ostream& out, const std::list<location>& 
   out << "end {polygonlist}\n";
 }
 
+// Each coordinate and each weight followed by a blank, and one more blank between the two. A
+// plain stream gets the whole text at once, its numbers formatted as the stream would format
+// them, which is several times faster in a large report.
 std::ostream& operator<<(std::ostream& out, const location& l) {
-  for (int i = 0; i < l.dim(); ++i) out << l.coordinates()[i] << ' ';
-  out << ' ';
-  for (int i = 0; i < l.weight_dim(); ++i) out << l.weights()[i] << ' ';
-  return out;
+  if (!plain_number_stream(out)) {
+    for (int i = 0; i < l.dim(); ++i) out << l.coordinates()[i] << ' ';
+    out << ' ';
+    for (int i = 0; i < l.weight_dim(); ++i) out << l.weights()[i] << ' ';
+    return out;
+  }
+  const int precision = static_cast<int>(out.precision());
+  std::string line;
+  char number[general_text_size];
+  const auto add = [&](double x) {
+    line.append(number, format_general(x, precision, number));
+    line += ' ';
+  };
+  for (int i = 0; i < l.dim(); ++i) add(l.coordinates()[i]);
+  line += ' ';
+  for (int i = 0; i < l.weight_dim(); ++i) add(l.weights()[i]);
+  return out.write(line.data(), static_cast<std::streamsize>(line.size()));
 }
 
 std::istream& operator>>(std::istream& in, location& l) {
