@@ -69,3 +69,36 @@ with a report of inf and nan.
   $ $MERO -a l2sqr_sum -l huge.loc --output=nowindowed
   MERO error: The result is not finite: coordinates or weights are too large. ErrorCode: 1013
   [1]
+
+The window layer, the viewers and the front end live in a module beside the program, which a
+console run never loads: the program links none of Tk, Tcl and X11, and a copy of it alone in a
+folder still runs console problems.
+
+  $ ldd "$MERO" | grep -cE 'libtk|libtcl|libX11'
+  0
+  [1]
+  $ mkdir alone && cp "$MERO" alone/mero
+  $ alone/mero -a l1_sum -l two.loc --output=nowindowed | sed -n 6p
+  7
+
+What needs the module (a window, a picture, a panel for a report, the front end) ends with the
+driver's message when it cannot be loaded, whether it is missing or no module at all.
+
+  $ alone/mero -a l1_sum -l two.loc
+  Open Window
+  
+  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  [1]
+  $ alone/mero -a l1_sum -l two.loc --output=nowindowed --picture=p.svg
+  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  [1]
+  $ alone/mero -a l1_sum -l missing.loc
+  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  [1]
+  $ echo 'not a module' > alone/mero_window.so
+  $ alone/mero
+  MERO error: Cannot load the window module: */alone/mero_window.so: file too short ErrorCode: 1015 (glob)
+  [1]
+  $ ls p.svg
+  ls: cannot access 'p.svg': No such file or directory
+  [2]
