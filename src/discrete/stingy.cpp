@@ -1,4 +1,4 @@
-#include <set>
+#include <algorithm>
 #include <vector>
 
 #include "discrete/discrete_problem.h"
@@ -12,7 +12,11 @@ namespace {
 // the nearest cost, so that near-ties among open facilities are priced as losses when it closes.
 constexpr double nearest_tolerance = 0.001;
 
-double cheapest_open(const cost_table& t, const std::set<int>& open_set, int i, int without) {
+// The open facilities, ascending: a sorted vector, which is walked in the same order as a set
+// and several times faster in these loops over every open facility.
+using open_list = std::vector<int>;
+
+double cheapest_open(const cost_table& t, const open_list& open_set, int i, int without) {
   double best = infinite_cost;
   for (int x : open_set)
     if (x != without && t(i, x) < best) best = t(i, x);
@@ -20,7 +24,7 @@ double cheapest_open(const cost_table& t, const std::set<int>& open_set, int i, 
 }
 
 // The change of z if j closed: what its demand points pay more, minus its fixed cost.
-double closing_change(const cost_table& t, const std::set<int>& open_set,
+double closing_change(const cost_table& t, const open_list& open_set,
                       const std::vector<double>& nearest, int j) {
   double increase = 0.0;
   for (int i = 0; i < t.m; ++i) {
@@ -31,7 +35,7 @@ double closing_change(const cost_table& t, const std::set<int>& open_set,
   return increase - t.f[j];
 }
 
-double start_value(const cost_table& t, const std::set<int>& open_set, bool supply_is_demand) {
+double start_value(const cost_table& t, const open_list& open_set, bool supply_is_demand) {
   double z = 0.0;
   for (int j = 0; j < t.n; ++j) z += t.f[j];
   // With the supply list a copy of the demand list every point is taken to serve itself at cost
@@ -44,8 +48,8 @@ double start_value(const cost_table& t, const std::set<int>& open_set, bool supp
 }  // namespace
 
 open_solution stingy_solution(const cost_table& t, bool supply_is_demand) {
-  std::set<int> open_set;
-  for (int j = 0; j < t.n; ++j) open_set.insert(j);
+  open_list open_set;
+  for (int j = 0; j < t.n; ++j) open_set.push_back(j);
   double z = start_value(t, open_set, supply_is_demand);
 
   std::vector<double> nearest(t.m);
@@ -60,12 +64,12 @@ open_solution stingy_solution(const cost_table& t, bool supply_is_demand) {
         drop = j;
       }
     }
-    if (drop >= 0) open_set.erase(drop);
+    if (drop >= 0) open_set.erase(std::find(open_set.begin(), open_set.end(), drop));
     // Dropping the last open facility ends the search without booking its saving.
     if (!(best < 0.0 && !open_set.empty())) break;
     z += best;
   }
-  return {z, std::vector<int>(open_set.begin(), open_set.end())};
+  return {z, open_set};
 }
 
 double discrete_problem::UFL_Stingy() {
