@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <set>
 #include <vector>
 
 #include "discrete/discrete_problem.h"
@@ -19,7 +18,14 @@ struct exchange {
   double gain = 0.0;
 };
 
-std::vector<double> cheapest(const cost_table& t, const std::set<int>& open_set, int without) {
+// Open and closed facilities are kept as ascending vectors: the sums then run in the order of the
+// facility numbers, and a small vector is walked much faster than a tree.
+using facility_set = std::vector<int>;
+
+void take_out(facility_set& s, int j) { s.erase(std::lower_bound(s.begin(), s.end(), j)); }
+void put_in(facility_set& s, int j) { s.insert(std::lower_bound(s.begin(), s.end(), j), j); }
+
+std::vector<double> cheapest(const cost_table& t, const facility_set& open_set, int without) {
   std::vector<double> best(t.m, infinite_cost);
   for (int i = 0; i < t.m; ++i)
     for (int x : open_set)
@@ -28,8 +34,8 @@ std::vector<double> cheapest(const cost_table& t, const std::set<int>& open_set,
 }
 
 // The first open facility that has a profitable exchange, with its best closed partner.
-exchange find_exchange(const cost_table& t, const std::set<int>& open_set,
-                       const std::set<int>& closed_set) {
+exchange find_exchange(const cost_table& t, const facility_set& open_set,
+                       const facility_set& closed_set) {
   const std::vector<double> nearest = cheapest(t, open_set, -1);
   for (int j : open_set) {
     const std::vector<double> second = cheapest(t, open_set, j);
@@ -48,22 +54,24 @@ exchange find_exchange(const cost_table& t, const std::set<int>& open_set,
 }
 
 open_solution improve(const cost_table& t, const open_solution& start) {
-  std::set<int> open_set(start.open.begin(), start.open.end());
-  std::set<int> closed_set;
+  facility_set open_set(start.open.begin(), start.open.end());
+  std::sort(open_set.begin(), open_set.end());
+  open_set.erase(std::unique(open_set.begin(), open_set.end()), open_set.end());
+  facility_set closed_set;
   for (int j = 0; j < t.n; ++j)
-    if (!open_set.count(j)) closed_set.insert(j);
+    if (!std::binary_search(open_set.begin(), open_set.end(), j)) closed_set.push_back(j);
   double z = start.value;
   if (!closed_set.empty()) {
     for (exchange e = find_exchange(t, open_set, closed_set); e.leaving >= 0;
          e = find_exchange(t, open_set, closed_set)) {
-      open_set.erase(e.leaving);
-      closed_set.insert(e.leaving);
-      closed_set.erase(e.entering);
-      open_set.insert(e.entering);
+      take_out(open_set, e.leaving);
+      put_in(closed_set, e.leaving);
+      take_out(closed_set, e.entering);
+      put_in(open_set, e.entering);
       z -= e.gain;
     }
   }
-  return {z, std::vector<int>(open_set.begin(), open_set.end())};
+  return {z, open_set};
 }
 
 }  // namespace
