@@ -93,6 +93,13 @@ char* format_general(double value, int precision, char* text) {
     *out++ = '0';
     return out;
   }
+  // A whole number below 10^precision is written as its digits (most of a report's numbers).
+  if (const double a = std::fabs(value);
+      precision <= 15 && a < exact_powers[precision] && a == std::floor(a)) {
+    char* out = text;
+    if (value < 0) *out++ = '-';
+    return std::to_chars(out, text + general_text_size, static_cast<std::uint64_t>(a)).ptr;
+  }
   if (char* end = scaled_general(value, precision, text)) return end;
   if (!std::isfinite(value)) {
     const int n = std::snprintf(text, general_text_size, "%.*g", precision, value);
