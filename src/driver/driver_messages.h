@@ -28,9 +28,9 @@ inline constexpr message result_not_finite{
 // -p is read as atoi reads it (text that is no number gives 0), but a value beyond the int range,
 // which atoi would convert with undefined behaviour, is refused.
 inline constexpr message p_out_of_range{1014, "The value of -p is out of range: %s"};
-// The window module beside the program (window layer, viewers, front end) cannot be loaded when a
-// run needs it; %s is the loader's reason, which names the file.
-inline constexpr message window_module_unloadable{1015, "Cannot load the window module: %s"};
+// The window program beside mero (window layer, viewers, front end) cannot be started when a run
+// needs it; %s names the file and the system's reason.
+inline constexpr message window_program_unstartable{1015, "Cannot start the window program: %s"};
 
 // --picture names a file that cannot be written; the run ends before its report.
 inline constexpr message picture_unwritable{1515, "Can't write picture file \"%s\""};

@@ -1,11 +1,16 @@
 #include "driver/command_line.h"
-#include "driver/window_module.h"
+#include "driver/problem_run.h"
+#include "driver/window_program.h"
 
-// The program: the windowed faces of the reporters and the viewers come from the window module
-// at their first need, then the program name alone starts the front end (from the same module)
-// and anything else runs one problem.
+// The program: a console run is done here; the front end (the program name alone) and every run
+// that needs a window, a picture or the results are done by the window program, which replaces
+// this one with the same arguments before anything has been read or written.
 int main(int argc, char** argv) {
-  mero::defer_window_module();
-  if (argc <= 1) return mero::load_window_module().start_front_end(argc, argv);
-  return mero::run_command_line(argc, argv);
+  mero::defer_window_program(argv);
+  if (argc <= 1) mero::start_window_program();
+  const mero::run_request request =
+      mero::parse_command_line(std::vector<std::string>(argv + 1, argv + argc));
+  if (mero::needs_window_program(request)) mero::start_window_program();
+  mero::run_problem(request);
+  return 0;
 }

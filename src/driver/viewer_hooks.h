@@ -1,7 +1,8 @@
 #pragma once
-// The result viewers draw through the window layer, which libmero does not link; the program
-// installs them here from its window module at their first use (driver/window_module.h). Without
-// them a windowed run only announces its window and --picture and --results write nothing.
+// The result viewers draw through the window layer, which libmero does not link: the window
+// program installs them here at its start, and mero starts the window program at their first use
+// (driver/window_program.h). Without them a windowed run only announces its window and --picture
+// and --results write nothing.
 
 #include <ostream>
 #include <string>

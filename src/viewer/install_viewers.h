@@ -1,5 +1,5 @@
 #pragma once
-// Puts the result viewers into the run's hooks; the window module calls it when it is installed.
+// Puts the result viewers into the run's hooks; the window program does so at its start.
 
 namespace mero {
 

@@ -70,35 +70,40 @@ with a report of inf and nan.
   MERO error: The result is not finite: coordinates or weights are too large. ErrorCode: 1013
   [1]
 
-The window layer, the viewers and the front end live in a module beside the program, which a
-console run never loads: the program links none of Tk, Tcl and X11, and a copy of it alone in a
-folder still runs console problems.
+The window layer, the viewers and the front end live in a program of their own beside mero
+(mero_window), which a console run never starts: mero links none of Tk, Tcl and X11, and a copy of
+it alone in a folder still runs console problems.
 
-  $ ldd "$MERO" | grep -cE 'libtk|libtcl|libX11'
+  $ ldd "$MERO" 2>/dev/null | grep -cE 'libtk|libtcl|libX11'
   0
   [1]
   $ mkdir alone && cp "$MERO" alone/mero
   $ alone/mero -a l1_sum -l two.loc --output=nowindowed | sed -n 6p
   7
 
-What needs the module (a window, a picture, a panel for a report, the front end) ends with the
-driver's message when it cannot be loaded, whether it is missing or no module at all.
+What needs the window program (a window, a picture, a panel for a report, the front end) ends with
+the driver's message when it cannot be started, whether it is missing or no program at all. That
+happens before the run has read or written anything: no report, no picture.
 
-  $ alone/mero -a l1_sum -l two.loc
-  Open Window
-  
-  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  $ alone/mero -a l1_sum -l two.loc --output=file=r.txt
+  MERO error: Cannot start the window program: */alone/mero_window: No such file or directory ErrorCode: 1015 (glob)
   [1]
   $ alone/mero -a l1_sum -l two.loc --output=nowindowed --picture=p.svg
-  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  MERO error: Cannot start the window program: */alone/mero_window: No such file or directory ErrorCode: 1015 (glob)
   [1]
   $ alone/mero -a l1_sum -l missing.loc
-  MERO error: Cannot load the window module: */alone/mero_window.so: cannot open shared object file: No such file or directory ErrorCode: 1015 (glob)
+  MERO error: Cannot start the window program: */alone/mero_window: No such file or directory ErrorCode: 1015 (glob)
   [1]
-  $ echo 'not a module' > alone/mero_window.so
+  $ echo 'not a program' > alone/mero_window
   $ alone/mero
-  MERO error: Cannot load the window module: */alone/mero_window.so: file too short ErrorCode: 1015 (glob)
+  MERO error: Cannot start the window program: */alone/mero_window: Permission denied ErrorCode: 1015 (glob)
   [1]
+  $ chmod +x alone/mero_window && alone/mero -a l1_sum -l two.loc --output=nowindowed --results=r.txt
+  MERO error: Cannot start the window program: */alone/mero_window: Exec format error ErrorCode: 1015 (glob)
+  [1]
+  $ ls r.txt
+  ls: cannot access 'r.txt': No such file or directory
+  [2]
   $ ls p.svg
   ls: cannot access 'p.svg': No such file or directory
   [2]

@@ -1,6 +1,6 @@
 #pragma once
-// The windowed faces of the reporters: the error, message and question panels. The program's
-// window module installs them when it is loaded, the graph editor at its start; the kernel itself
+// The windowed faces of the reporters: the error, message and question panels. The
+// window program installs them at its start, and so does the graph editor; the kernel itself
 // knows only the replaceable sink, so nothing that does not link the window layer pulls in Tk.
 
 #include <string>
