@@ -32,8 +32,10 @@ std::string node_label(const graph_scene& s, node v, int number,
                        std::list<std::string>::const_iterator name, bool weights) {
   std::string text;
   if (weights) {
-    for (double x : s.graph->inf(v).weights)
-      text += (text.empty() ? "" : " ") + printed(vm::graph_weight, x);
+    for (double x : s.graph->inf(v).weights) {
+      if (!text.empty()) text += ' ';
+      text += printed(vm::graph_weight, x);
+    }
     return text;
   }
   if (name != s.locations->names.end()) text = *name;

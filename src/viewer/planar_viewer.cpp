@@ -100,7 +100,10 @@ void draw_locations(window& w, const planar_slots& s, double radius) {
     const double x = l.coordinate(0), y = l.coordinate(1);
     w.draw_disc(x, y, radius);
     std::string text = name != problem.names.end() ? *name : std::string();
-    if (s.show_weights) text += (text.empty() ? "" : " ") + weight_text(l);
+    if (s.show_weights) {
+      if (!text.empty()) text += ' ';
+      text += weight_text(l);
+    }
     if (!text.empty()) w.draw_text(x + 1.5 * radius, y - 1.5 * radius, text);
     if (name != problem.names.end()) ++name;
   }

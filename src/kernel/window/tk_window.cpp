@@ -238,7 +238,7 @@ std::pair<std::string, int> tk_window::menu_entry_path(
 void tk_window::build_item(std::size_t index) {
   const item& it = items()[index];
   const std::string id = std::to_string(id_);
-  const std::string name = "i" + std::to_string(index);
+  const std::string name = 'i' + std::to_string(index);
   const std::string p = path_ + ".p." + name, b = path_ + ".b." + name;
   switch (it.what) {
     case item::kind::text:
@@ -276,7 +276,7 @@ void tk_window::build_item(std::size_t index) {
 void tk_window::item_changed(std::size_t index) {
   if (!realized_) return;
   const item& it = items()[index];
-  const std::string name = "i" + std::to_string(index);
+  const std::string name = 'i' + std::to_string(index);
   const std::string widget = path_ + (it.what == item::kind::text ? ".p." : ".b.") + name;
   if (call({"winfo", "exists", widget}) == "1") {
     if (it.what == item::kind::text) {
@@ -290,7 +290,7 @@ void tk_window::item_changed(std::size_t index) {
 }
 
 void tk_window::show_at(int x, int y) {
-  call({"wm", "geometry", path_, "+" + std::to_string(x) + "+" + std::to_string(y)});
+  call({"wm", "geometry", path_, '+' + std::to_string(x) + '+' + std::to_string(y)});
   call({"wm", "deiconify", path_});
   call({"raise", path_});
   call({"update", "idletasks"});
