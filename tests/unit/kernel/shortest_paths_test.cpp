@@ -110,8 +110,9 @@ TEST(shortest_paths, rows_equal_dijkstra_bit_for_bit) {
       rows.row(s, row.data(), -1.0);
       for (int j = 0; j < n; ++j) {
         ASSERT_EQ(row[j], dist[nodes[j]]) << "round " << round << " " << s << "-" << j;
-        if (round % 3 == 0)
+        if (round % 3 == 0) {
           ASSERT_EQ(row[j], floyd[s][j] == unreachable ? -1.0 : floyd[s][j]) << "round " << round;
+        }
       }
     }
   }

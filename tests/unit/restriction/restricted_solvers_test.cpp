@@ -169,11 +169,14 @@ TEST(RestrictedSolvers, MatchBruteForceOnOneConvexRegionAroundTheFreeOptimum) {
       const double b = brute_minimum(f, c.d, feasible_samples(region, true), c.is_max, c.squared);
       const double weight = c.is_max ? largest_weight(f) : total_weight(f);
       const double slack = weight * 2.0 * c.slack * boundary_step(region);
-      if (c.relative > 0)  // the walk stops near, not at, the boundary minimum
+      if (c.relative > 0) {  // the walk stops near, not at, the boundary minimum
         EXPECT_NEAR(v, b, c.relative * b + slack) << c.name << " seed " << seed;
-      else
+      } else {
         expect_matches(v, b, slack, c.name, seed);
-      if (c.squared) EXPECT_EQ(f.optima_view().size(), 1u) << seed;
+      }
+      if (c.squared) {
+        EXPECT_EQ(f.optima_view().size(), 1u) << seed;
+      }
       expect_optima_have_value(f, c.d, v, c.is_max, c.squared);
     }
 }
