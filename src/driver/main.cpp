@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
   const mero::run_request request =
       mero::parse_command_line(std::vector<std::string>(argv + 1, argv + argc));
   if (mero::needs_window_program(request)) mero::start_window_program();
+  mero::begin_console_run();
   mero::run_problem(request);
   return 0;
 }

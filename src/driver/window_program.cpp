@@ -15,6 +15,7 @@ namespace mero {
 namespace {
 
 char** arguments = nullptr;
+bool console_run_begun = false;
 
 // The folder of the running program, from /proc/self/exe, so that a build tree, an installed
 // copy and a program started through a link all find the window program built beside them.
@@ -51,11 +52,16 @@ bool needs_window_program(const run_request& request) {
   return request.windowed || !request.picture_file.empty() || !request.results_file.empty();
 }
 
+void begin_console_run() { console_run_begun = true; }
+
 void start_window_program() {
   const std::string path = program_folder() + "/" + window_program_file;
-  char* none[] = {nullptr};
-  execv(path.c_str(), arguments ? arguments : none);
-  const std::string reason = path + ": " + std::strerror(errno);
+  std::string reason = path + ": the run has begun without it";
+  if (!console_run_begun) {
+    char* none[] = {nullptr};
+    execv(path.c_str(), arguments ? arguments : none);
+    reason = path + ": " + std::strerror(errno);
+  }
   // The message itself must not ask for a panel again.
   windowed_mode = false;
   set_report_sink(default_report_sink);

@@ -20,6 +20,10 @@ void defer_window_program(char** argv);
 // Whether the run of request uses the window layer: a windowed run, a picture or the results.
 bool needs_window_program(const run_request& request);
 
+// Marks the run as begun in mero itself: from then on the window program is not started (it would
+// do the run a second time) and a need for it ends the run with the driver's message.
+void begin_console_run();
+
 // Replaces the process by the window program from the program's own folder, with the arguments
 // given to defer_window_program. If it cannot be started, the run ends with the driver's message
 // on the console.
