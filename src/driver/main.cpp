@@ -4,7 +4,7 @@
 
 // The program: a console run is done here; the front end (the program name alone) and every run
 // that needs a window, a picture or the results are done by the window program, which replaces
-// this one with the same arguments before anything has been read or written.
+// this one with the same arguments before a data file has been read or a report written.
 int main(int argc, char** argv) {
   mero::defer_window_program(argv);
   if (argc <= 1) mero::start_window_program();
